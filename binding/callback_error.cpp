@@ -1,0 +1,23 @@
+// Logging what a callback raised, whatever it raised.
+#include "binding/callback_error.h"
+
+#include <cstdio>
+
+#include "binding/conversions.h"
+#include "platform/log.h"
+#include "platform/operations.h"
+
+namespace luavelora {
+
+void LogCallbackError(lua_State* L) {
+  ValueText value;
+  char placeholder[64];
+  const char* text = value.Get(L, -1);
+  if (text == nullptr) {
+    std::snprintf(placeholder, sizeof placeholder, "(error object is a %s value)", luaL_typename(L, -1));
+    text = placeholder;
+  }
+  tarn::log::Log(tarn::velora::LogChannel, 0, "[Velora callback err] %s", text);
+}
+
+}  // namespace luavelora

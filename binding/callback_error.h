@@ -1,0 +1,12 @@
+// The log line of an error that a script's callback raised.
+#pragma once
+
+#include <lua.hpp>
+
+namespace luavelora {
+
+// Logs the error value on top of the stack, which stays there. Allocates nothing in Lua; an error value without text
+// is named by its type.
+void LogCallbackError(lua_State* L);
+
+}  // namespace luavelora

@@ -1,0 +1,23 @@
+// Storing one constant raw in the table on top of the stack, which stays there. Each may raise.
+#pragma once
+
+#include <cstdint>
+#include <lua.hpp>
+#include <string>
+
+namespace luavelora {
+
+inline void SetConstant(lua_State* L, const char* key, lua_Integer value) {
+  lua_pushstring(L, key);
+  lua_pushinteger(L, value);
+  lua_rawset(L, -3);
+}
+
+// The characters up to the first zero byte.
+inline void SetConstant(lua_State* L, const char* key, const std::string& value) {
+  lua_pushstring(L, key);
+  lua_pushstring(L, value.c_str());
+  lua_rawset(L, -3);
+}
+
+}  // namespace luavelora

@@ -1,0 +1,48 @@
+// The SDK's account of the social graph. The operations stand in virtual-table order; the first is never called. A
+// record is destroyed by its shared reference's own deleter; its operations may be called from any thread that holds
+// one.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "platform/import.h"
+#include "platform/types.h"
+
+namespace tarn::velora {
+
+class VELORA_SDK_TYPE AccountInfo {
+ public:
+  // `New` gives a reference to a new record, or an empty one where the SDK does not support the class.
+  static VELORA_SDK_API std::shared_ptr<AccountInfo> New();
+  static VELORA_SDK_API std::shared_ptr<AccountInfo> New(const std::string& text);
+
+  virtual void reserved() {}
+  virtual bool get_accountId(std::string& out) = 0;
+  virtual bool get_icon(std::string& out) = 0;
+  virtual bool get_idType(std::string& out) = 0;
+  virtual bool get_nickname(std::string& out) = 0;
+  virtual std::int64_t get_rank() = 0;
+  virtual double get_rankScore() = 0;
+  virtual bool get_relationType(std::string& out) = 0;
+  virtual bool get_remark(std::string& out) = 0;
+  virtual bool get_statusMessage(std::string& out) = 0;
+  virtual bool get_inGame() = 0;
+  virtual void set_accountId(const std::string& value) = 0;
+  virtual void set_icon(const std::string& value) = 0;
+  virtual void set_idType(const std::string& value) = 0;
+  virtual void set_inGame(bool value) = 0;
+  virtual void set_nickname(const std::string& value) = 0;
+  virtual void set_rank(std::int64_t value) = 0;
+  virtual void set_rankScore(double value) = 0;
+  virtual void set_relationType(const std::string& value) = 0;
+  virtual void set_remark(const std::string& value) = 0;
+  virtual void set_statusMessage(const std::string& value) = 0;
+  virtual bool toString(std::string& out) = 0;
+
+ protected:
+  ~AccountInfo() = default;
+};
+
+}  // namespace tarn::velora

@@ -1,0 +1,43 @@
+// The SDK's download service. Everything here is called on the thread of Lua.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/import.h"
+
+namespace tarn::velora::download {
+
+// Hears of downloads at once, where the queued download events come a frame later. Three virtual slots, no more.
+// Texts and bytes are valid during the call only; either may be null.
+class VELORA_SDK_TYPE SyncDownloadHandler {
+ public:
+  SyncDownloadHandler() = default;
+  SyncDownloadHandler(const SyncDownloadHandler&) = delete;
+  SyncDownloadHandler& operator=(const SyncDownloadHandler&) = delete;
+
+  virtual void onInited() = 0;
+  virtual void onProgress(const char* text) = 0;
+  virtual void onFinish(const char* text, const void* bytes, std::uint64_t count) = 0;
+
+ protected:
+  ~SyncDownloadHandler() = default;
+};
+
+VELORA_SDK_API void init();
+VELORA_SDK_API void extendFunc(const std::string& text);
+VELORA_SDK_API void disableDownloadFinish2();
+
+// Each fills `out` and reports whether there is a text.
+VELORA_SDK_API bool query(std::string& out);
+VELORA_SDK_API bool getDownloadSDKVersion(std::string& out);
+VELORA_SDK_API bool getOrbitSessionId(std::string& out);
+
+// The handler is not owned; it must be removed before it dies, unless the SDK makes no more calls.
+VELORA_SDK_API void addSyncDownloadHandler(SyncDownloadHandler* handler);
+VELORA_SDK_API void removeSyncDownloadHandler(SyncDownloadHandler* handler);
+
+// Switches the queued download events on or off.
+VELORA_SDK_API void enableAsyncEvent(bool enabled);
+
+}  // namespace tarn::velora::download

@@ -1,0 +1,32 @@
+// The SDK's controller record. The operations stand in virtual-table order; the first is never called. A record is
+// destroyed by its shared reference's own deleter; its operations may be called from any thread that holds one.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "platform/import.h"
+#include "platform/types.h"
+
+namespace tarn::velora {
+
+class VELORA_SDK_TYPE PadRecord {
+ public:
+  virtual void reserved() {}
+  virtual std::int32_t get_action() = 0;
+  virtual std::int32_t get_deviceId() = 0;
+  virtual std::int64_t get_eventTime() = 0;
+  virtual std::int32_t get_keyCode() = 0;
+  virtual std::int32_t get_motionKeyCode() = 0;
+  virtual float get_pressure() = 0;
+  virtual std::int32_t get_state() = 0;
+  virtual std::int32_t get_stateAction() = 0;
+  virtual float get_x() = 0;
+  virtual float get_y() = 0;
+
+ protected:
+  ~PadRecord() = default;
+};
+
+}  // namespace tarn::velora

@@ -1,0 +1,35 @@
+// The SDK's store product: a plain value that crosses the boundary by value and by reference, so its layout counts.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "platform/import.h"
+#include "platform/types.h"
+
+namespace tarn::velora {
+
+struct ProductInfo {
+  std::string productId;
+  std::string productName;
+  float productPrice = 0;
+  std::int32_t exchangeRatio = 1;
+  StringMap sdkPids;
+  IntMap channelGoodsTypes;
+  IntMap jellRatios;
+  std::string jellyExtra;
+  std::string ffChannel;
+};
+
+static_assert(offsetof(ProductInfo, productName) == 32 && offsetof(ProductInfo, productPrice) == 64 &&
+              offsetof(ProductInfo, exchangeRatio) == 68 && offsetof(ProductInfo, sdkPids) == 72 &&
+              offsetof(ProductInfo, channelGoodsTypes) == 72 + sizeof(StringMap) &&
+              offsetof(ProductInfo, jellRatios) == 72 + 2 * sizeof(StringMap) &&
+              offsetof(ProductInfo, jellyExtra) == 72 + 3 * sizeof(StringMap) &&
+              offsetof(ProductInfo, ffChannel) == 104 + 3 * sizeof(StringMap));
+
+// Fills `out` with a text form of `product` and reports success.
+VELORA_SDK_API bool toString(const ProductInfo& product, std::string& out);
+
+}  // namespace tarn::velora

@@ -1,0 +1,38 @@
+// The SDK's rank query. The operations stand in virtual-table order; the first is never called. A record is
+// destroyed by its shared reference's own deleter; its operations may be called from any thread that holds one.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "platform/import.h"
+#include "platform/types.h"
+
+namespace tarn::velora {
+
+class VELORA_SDK_TYPE QueryRankInfo {
+ public:
+  // `New` gives a reference to a new record, or an empty one where the SDK does not support the class.
+  static VELORA_SDK_API std::shared_ptr<QueryRankInfo> New();
+  static VELORA_SDK_API std::shared_ptr<QueryRankInfo> New(const std::string& text);
+
+  static VELORA_SDK_DATA const std::string QUERY_RANK_TYPE_SCORE;
+  static VELORA_SDK_DATA const std::string QUERY_RANK_TYPE_GRADE;
+  static VELORA_SDK_DATA const std::string QUERY_RANK_SCOPE_ALL;
+  static VELORA_SDK_DATA const std::string QUERY_RANK_SCOPE_FRIEND;
+
+  virtual void reserved() {}
+  virtual bool get_type(std::string& out) = 0;
+  virtual bool get_scope(std::string& out) = 0;
+  virtual std::int32_t get_count() = 0;
+  virtual void set_type(const std::string& value) = 0;
+  virtual void set_scope(const std::string& value) = 0;
+  virtual void set_count(std::int32_t value) = 0;
+  virtual bool toString(std::string& out) = 0;
+
+ protected:
+  ~QueryRankInfo() = default;
+};
+
+}  // namespace tarn::velora
