@@ -1,0 +1,11 @@
+// The class of the controller record that the controller events carry.
+#pragma once
+
+struct lua_State;
+
+namespace luavelora {
+
+// Stores the class table in the module table, which is on top of the stack and stays there. May raise.
+void RegisterPadEvent(lua_State* L);
+
+}  // namespace luavelora

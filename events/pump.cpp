@@ -1,0 +1,90 @@
+// The per-frame pass over the SDK's events.
+#include "events/pump.h"
+
+#include <memory>
+#include <vector>
+
+#include "binding/callback_error.h"
+#include "events/callbacks.h"
+#include "events/catalogue.h"
+#include "platform/event.h"
+#include "platform/log.h"
+#include "platform/operations.h"
+
+namespace luavelora {
+
+namespace {
+
+using tarn::velora::Event;
+
+// One pass. It lives outside the protected call that runs it, so that the batch and a holder on its way into a
+// userdata are released whatever happens.
+struct Pass {
+  std::vector<std::shared_ptr<Event>> batch;
+  std::size_t next = 0;
+  RecordPusher pusher;
+
+  // Shared references go first to last.
+  ~Pass() {
+    for (auto& event : batch) event.reset();
+  }
+};
+
+constexpr int kTableIndex = 1;
+
+// Calls the slot's function with the arguments that the layout gives.
+template <class Layout>
+void Deliver(lua_State* L, Pass& pass, const Event& event) {
+  const auto& layout = static_cast<const Layout&>(event);
+  Prepare(pass.pusher, layout);
+  lua_rawgeti(L, kTableIndex, event.type);
+  const int arguments = Push(L, pass.pusher, layout);
+  if (lua_pcallk(L, arguments, 0, 0, 0, nullptr) != LUA_OK) {
+    LogCallbackError(L);
+    lua_pop(L, 1);
+  }
+}
+
+using DeliverFunction = void (*)(lua_State*, Pass&, const Event&);
+
+constexpr DeliverFunction kDeliver[] = {
+#define VELORA_EVENT(type, name, Layout) Deliver<tarn::velora::Layout>,
+#include "platform/events.def"
+#undef VELORA_EVENT
+};
+static_assert(std::size(kDeliver) == kEventTypes);
+
+// Delivers the rest of the batch; runs in protected mode. The callback table of a name is one for the life of the
+// state, so it is fetched once; its slots are read anew for every event, since callbacks may change them.
+void DeliverRest(lua_State* L, Pass& pass) {
+  GetSdkCallbackTable(L, kCallbackTable);
+  while (pass.next < pass.batch.size()) {
+    const Event& event = *pass.batch[pass.next++];
+    const bool wanted = lua_rawgeti(L, kTableIndex, event.type) != LUA_TNIL;
+    lua_pop(L, 1);
+    if (!wanted) continue;
+    if (static_cast<std::uint32_t>(event.type) >= kEventTypes)
+      tarn::log::LogError(tarn::velora::LogChannel, "Unknown velora event %d", event.type);
+    else
+      kDeliver[event.type](L, pass, event);
+  }
+  lua_settop(L, 0);
+}
+
+}  // namespace
+
+Outcome RunPass(lua_State* L) {
+  Pass pass;
+  tarn::velora::SwapEvents(pass.batch);
+  auto rest = [&pass](lua_State* state) { DeliverRest(state, pass); };
+  while (pass.next < pass.batch.size()) {
+    const int status = Protected(L, 0, rest);
+    if (status == LUA_OK) break;
+    if (status != LUA_ERRGCMM) return Outcome::Rethrow();
+    LogCallbackError(L);
+    lua_pop(L, 1);
+  }
+  return Outcome::Results(0);
+}
+
+}  // namespace luavelora

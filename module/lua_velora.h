@@ -1,0 +1,33 @@
+// The module's three entry points. Call each on the thread that owns the Lua state; each leaves the Lua stack as it
+// found it. None reports a failure of its own; a memory failure inside Lua leaves Init and Update as a Lua error.
+#pragma once
+
+struct lua_State;
+
+#if defined(_WIN32) && defined(VELORA_MODULE_BUILD)
+#define LUA_VELORA_API __declspec(dllexport)
+#elif defined(_WIN32)
+#define LUA_VELORA_API
+#else
+#define LUA_VELORA_API __attribute__((visibility("default")))
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+// Builds the global table `velora`. Call it once, before any script uses the module; a second call builds a new
+// table and leaves objects made before it valid.
+LUA_VELORA_API void InitLuaVelora(struct lua_State* L);
+
+// Hands every event that the SDK has queued to the script's callbacks. Call it once per frame. Errors of callbacks
+// are logged and never reach the host.
+LUA_VELORA_API void UpdateLuaVelora(struct lua_State* L);
+
+// Forgets the 60 event callbacks. Call it once at shutdown, while the Lua state still exists. The table `velora`,
+// objects that scripts hold and a registered download handler stay as they are.
+LUA_VELORA_API void DeinitLuaVelora(struct lua_State* L);
+
+#ifdef __cplusplus
+}
+#endif

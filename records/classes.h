@@ -1,0 +1,16 @@
+// The registration of the record classes. Each stores its class table, then the constants that belong to it, in the
+// module table, which is on top of the stack and stays there. May raise.
+#pragma once
+
+struct lua_State;
+
+namespace luavelora {
+
+void RegisterProductInfo(lua_State* L);
+void RegisterOrderInfo(lua_State* L);
+void RegisterQueryRankInfo(lua_State* L);
+void RegisterShareInfo(lua_State* L);
+void RegisterAccountInfo(lua_State* L);
+void RegisterSkuDetailsInfo(lua_State* L);
+
+}  // namespace luavelora

@@ -1,0 +1,16 @@
+// What the order class needs of products: holders made from records and records made from holders.
+#pragma once
+
+#include <memory>
+
+#include "records/holder.h"
+
+namespace luavelora {
+
+// A holder with its own copy of `source`, side maps included.
+std::unique_ptr<ProductInfoHolder> BindProduct(const tarn::velora::ProductInfo& source);
+
+// The holder's record, after copying the side maps into it.
+tarn::velora::ProductInfo& FlushProduct(ProductInfoHolder& holder);
+
+}  // namespace luavelora

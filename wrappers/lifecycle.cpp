@@ -1,0 +1,54 @@
+// The lifecycle wrappers whose rules do not follow from their operation's type.
+#include "wrappers/lifecycle.h"
+
+namespace luavelora {
+
+// The one query that answers a bad argument with a value.
+Outcome HasFeature(lua_State* L) {
+  const char* feature = TextArgument(L, 1);
+  lua_pushboolean(L, feature != nullptr && tarn::velora::hasFeature(feature));
+  return Outcome::Results(1);
+}
+
+// A second argument without text chooses the shorter form, as an absent one does.
+Outcome GetPropStr(lua_State* L) {
+  const char* name = TextArgument(L, 1);
+  if (name == nullptr) return Refusal();
+  const char* second = TextArgument(L, 2);
+  return TextResult(L, [=](std::string& out) {
+    return second == nullptr ? tarn::velora::getPropStr(name, out) : tarn::velora::getPropStr(name, second, out);
+  });
+}
+
+// The SDK takes an untyped pointer: to an int, to text, or to a one-byte bool, as the Lua type says.
+Outcome LumoSetOption(lua_State* L) {
+  if (lua_gettop(L) < 2 || !lua_isstring(L, 1)) return Refusal();
+  const char* name = TextArgument(L, 1);
+  if (lua_isinteger(L, 2)) {
+    const std::int32_t value = Low32(lua_tointeger(L, 2));
+    tarn::velora::zvLumoSetOption(name, &value);
+  } else if (const char* text = TextArgument(L, 2)) {
+    tarn::velora::zvLumoSetOption(name, text);
+  } else if (lua_isboolean(L, 2)) {
+    const bool value = lua_toboolean(L, 2) != 0;
+    static_assert(sizeof value == 1);
+    tarn::velora::zvLumoSetOption(name, &value);
+  } else {
+    return Outcome::Error("zvLumoSetOption: unsupport value type.");
+  }
+  return Outcome::Results(0);
+}
+
+// Nothing, nil and the empty string clear the text.
+Outcome SetCmdLineParameter(lua_State* L) {
+  const char* text = nullptr;
+  if (!lua_isnoneornil(L, 1)) {
+    if (lua_gettop(L) == 1) text = TextArgument(L, 1);
+    if (text == nullptr) return Outcome::Error("setCmdLineParameter must be str");
+    if (*text == '\0') text = nullptr;
+  }
+  tarn::velora::setCmdLineParameter(text);
+  return Outcome::Results(0);
+}
+
+}  // namespace luavelora

@@ -1,0 +1,36 @@
+// The row of a wrapper whose rules follow from its operation's type, records included.
+#pragma once
+
+#include "binding/wrapper.h"
+#include "platform/operations.h"
+#include "records/convention.h"
+#include "records/share_info.h"
+
+namespace luavelora {
+
+// The holder's own reference goes to the SDK, pinned for the call; a share request is flushed first.
+template <class Record>
+class RecordArgument {
+ public:
+  explicit RecordArgument(HolderOf<Record>& holder) : pin_(holder), reference_(*holder.record) {
+    if constexpr (std::is_same_v<Record, tarn::velora::ShareInfo>) FlushShare(holder);
+  }
+  operator const std::shared_ptr<Record>&() const { return reference_; }
+
+ private:
+  Pin pin_;
+  const std::shared_ptr<Record>& reference_;
+};
+
+template <class Record>
+struct Parameter<const std::shared_ptr<Record>&> {
+  using View = HolderOf<Record>*;
+  static bool Test(lua_State* L, int index) { return Self<Record>(L, index) != nullptr; }
+  static View Read(lua_State* L, int index) { return HolderAt<HolderOf<Record>>(L, index); }
+  static RecordArgument<Record> Make(View view) { return RecordArgument<Record>(*view); }
+};
+
+#define VELORA_WRAPPER(name) \
+  { #name, Entry < Wrapper < &tarn::velora::name>> }
+
+}  // namespace luavelora

@@ -1,0 +1,52 @@
+// The service wrappers whose rules do not follow from their operation's type.
+#include "wrappers/services.h"
+
+namespace luavelora {
+
+// Any value counts, by its truth.
+Outcome SetFloatBtnVisible(lua_State* L) {
+  tarn::velora::zvSetFloatBtnVisible(lua_toboolean(L, 1) != 0);
+  return Outcome::Results(0);
+}
+
+// A missing list is refused here, where the other list wrappers raise.
+Outcome SendPushNotification(lua_State* L) {
+  if (!lua_isstring(L, 1) || !lua_istable(L, 2)) return Refusal();
+  const char* text = TextArgument(L, 1);
+  std::int32_t length = 0;
+  if (const char* error = ClaimedLength(L, 2, length)) return Outcome::Error(error);
+  tarn::velora::zvSendPushNotification(text, ReadStringList(L, 2, length));
+  return Outcome::Results(0);
+}
+
+// A fifth argument without text chooses the shorter form, as an absent one does.
+Outcome CreateQRCode(lua_State* L) {
+  using Text = Parameter<const std::string&>;
+  return WithArguments<const std::string&, std::int32_t, std::int32_t, const std::string&>(
+      L, [L](const char* text, std::int32_t width, std::int32_t height, const char* path) {
+        if (const char* icon = Text::Read(L, 5))
+          tarn::velora::zvCreateQRCode(text, width, height, path, icon);
+        else
+          tarn::velora::zvCreateQRCode(text, width, height, path);
+        return Outcome::Results(0);
+      });
+}
+
+// The integer at `index`, or `otherwise` where there is none.
+lua_Integer OptionalInteger(lua_State* L, int index, lua_Integer otherwise) {
+  return lua_isinteger(L, index) ? lua_tointeger(L, index) : otherwise;
+}
+
+// The data goes to the SDK without a copy; the size never reaches beyond it.
+Outcome PushGameVoice(lua_State* L) {
+  std::size_t length = 0;
+  const char* data = lua_tolstring(L, 1, &length);
+  if (data == nullptr) return Refusal();
+  const auto size = static_cast<std::size_t>(OptionalInteger(L, 2, 0));  // a negative one is huge
+  tarn::velora::zvPushGameVoice(
+      data, size == 0 || size > length ? length : size, static_cast<std::uint32_t>(OptionalInteger(L, 3, 48000)),
+      static_cast<std::uint32_t>(OptionalInteger(L, 4, 16)), static_cast<std::uint32_t>(OptionalInteger(L, 5, 2)));
+  return Outcome::Results(0);
+}
+
+}  // namespace luavelora

@@ -1,0 +1,16 @@
+// The social wrapper whose rules do not follow from its operation's type.
+#include "wrappers/social.h"
+
+namespace luavelora {
+
+// The SDK takes a pointer and a count; an empty list is a null pointer.
+Outcome DisplayQuests(lua_State* L) {
+  if (!lua_istable(L, 1)) return Outcome::Error(kNeedsTable);
+  std::int32_t length = 0;
+  if (const char* error = ClaimedLength(L, 1, length)) return Outcome::Error(error);
+  const std::vector<std::int32_t> quests = ReadIntList(L, 1, length);
+  tarn::velora::zvDisplayQuests(quests.empty() ? nullptr : quests.data(), quests.size());
+  return Outcome::Results(0);
+}
+
+}  // namespace luavelora
