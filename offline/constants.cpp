@@ -1,0 +1,61 @@
+// The values of the SDK's constants. A text is the script's own name for it in lower case ("velora.app_key"), so that
+// a call line shows which constant was meant and a script that writes the value out by hand shows too; numbers count
+// through the list. Every value is met once.
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+#include "platform/const_prop.h"
+#include "platform/query_rank_info.h"
+#include "platform/share_info.h"
+
+namespace tarn::velora {
+namespace {
+
+enum Row : std::int32_t {
+#define VELORA_CONSTANT(name, kind) kRowOf_##name,
+#include "platform/constants.def"
+#undef VELORA_CONSTANT
+};
+
+constexpr std::int32_t kFirstNumber = 1000;
+constexpr float kMaxPrice = 9999.75F;  // not a whole number: whoever truncates it shows
+
+// ASCII only: the locale has no say.
+std::string Lower(std::string_view name) {
+  std::string text(name);
+  for (char& character : text) {
+    if (character >= 'A' && character <= 'Z') character = static_cast<char>(character - 'A' + 'a');
+  }
+  return text;
+}
+
+template <class Kind>
+Kind ValueOf(std::string_view name, std::int32_t row) {
+  if constexpr (std::is_same_v<Kind, ConstProp::String>) {
+    return Lower(name);
+  } else if constexpr (std::is_same_v<Kind, ConstProp::Float>) {
+    return kMaxPrice;
+  } else {
+    return row == kRowOf_AUTH_UNLOGIN ? -1 : kFirstNumber + row;  // a negative one: a lost sign shows
+  }
+}
+
+}  // namespace
+
+#define VELORA_CONSTANT(name, kind) \
+  const ConstProp::kind ConstProp::name = ValueOf<ConstProp::kind>("velora." #name, kRowOf_##name);
+#include "platform/constants.def"
+#undef VELORA_CONSTANT
+
+#define VELORA_SHARE_CONSTANT(name) const std::string ShareInfo::name = Lower("velora.SHARE_" #name);
+#include "platform/share_constants.def"
+#undef VELORA_SHARE_CONSTANT
+
+const std::string QueryRankInfo::QUERY_RANK_TYPE_SCORE = Lower("velora.QUERY_RANK_TYPE_SCORE");
+const std::string QueryRankInfo::QUERY_RANK_TYPE_GRADE = Lower("velora.QUERY_RANK_TYPE_GRADE");
+const std::string QueryRankInfo::QUERY_RANK_SCOPE_ALL = Lower("velora.QUERY_RANK_SCOPE_ALL");
+const std::string QueryRankInfo::QUERY_RANK_SCOPE_FRIEND = Lower("velora.QUERY_RANK_SCOPE_FRIEND");
+
+}  // namespace tarn::velora

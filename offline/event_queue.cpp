@@ -1,0 +1,142 @@
+// The event queue and the runtime's thread.
+#include "offline/event_queue.h"
+
+#include <algorithm>
+#include <atomic>
+#include <condition_variable>
+#include <cstdio>
+#include <iterator>
+#include <list>
+#include <mutex>
+#include <thread>
+
+#include "offline/calls.h"
+#include "offline/control.h"
+
+namespace tarn::velora::offline {
+namespace {
+
+struct Job {
+  std::vector<std::shared_ptr<Event>> answers;
+  std::function<void()> effect;
+};
+
+struct Queue {
+  std::mutex mutex;
+  std::vector<std::shared_ptr<Event>> events;
+  std::atomic<bool> hasEvents = false;  // spares an idle frame the lock
+  std::list<Job> jobs;                  // a list, so that jobs move from hand to hand without allocating
+  bool busy = false;                    // a job is being done
+  bool stopping = false;
+  std::condition_variable wake;
+  std::condition_variable idle;
+
+  // Held while the thread is started or stopped; taken before `mutex`, never by the thread itself.
+  std::mutex threadMutex;
+  std::thread thread;
+};
+
+// Never destroyed: the thread may outlive the process's statics where nobody called Stop.
+Queue& TheQueue() {
+  static Queue& queue = *new Queue;
+  return queue;
+}
+
+void Enqueue(std::vector<std::shared_ptr<Event>> fresh) {
+  Queue& queue = TheQueue();
+  std::lock_guard lock(queue.mutex);
+  queue.events.insert(queue.events.end(), std::make_move_iterator(fresh.begin()), std::make_move_iterator(fresh.end()));
+  queue.hasEvents = !queue.events.empty();
+}
+
+// Nothing may leave the thread: what cannot be done (for want of memory, say) is reported and left.
+void Perform(Job& job) {
+  try {
+    if (job.effect) job.effect();
+    Enqueue(std::move(job.answers));
+  } catch (...) {
+    std::fputs("[sdk] an answer is lost\n", stderr);
+  }
+}
+
+void RunThread() {
+  const Quiet quiet;
+  Queue& queue = TheQueue();
+  std::unique_lock lock(queue.mutex);
+  for (;;) {
+    queue.wake.wait(lock, [&] { return queue.stopping || !queue.jobs.empty(); });
+    if (queue.jobs.empty()) return;
+    std::list<Job> current;
+    current.splice(current.begin(), queue.jobs, queue.jobs.begin());
+    queue.busy = true;
+    lock.unlock();
+    Perform(current.front());
+    current.clear();  // whoever waits for this job may count on its records being released
+    lock.lock();
+    queue.busy = false;
+    queue.idle.notify_all();
+  }
+}
+
+}  // namespace
+
+void Reply(std::vector<std::shared_ptr<Event>> answers, std::function<void()> effect) {
+  std::list<Job> job;
+  job.push_back({std::move(answers), std::move(effect)});
+  Queue& queue = TheQueue();
+  std::lock_guard threadLock(queue.threadMutex);
+  if (!queue.thread.joinable()) queue.thread = std::thread(RunThread);
+  {
+    std::lock_guard lock(queue.mutex);
+    queue.jobs.splice(queue.jobs.end(), job);
+  }
+  queue.wake.notify_one();
+}
+
+void Post(std::shared_ptr<Event> event) {
+  if (event == nullptr) return;
+  std::vector<std::shared_ptr<Event>> fresh;
+  fresh.push_back(std::move(event));
+  Enqueue(std::move(fresh));
+}
+
+void ForgetEvents() {
+  Queue& queue = TheQueue();
+  std::list<Job> jobs;  // released when the lock is open again
+  std::vector<std::shared_ptr<Event>> dropped;
+  std::unique_lock lock(queue.mutex);
+  jobs.swap(queue.jobs);
+  queue.idle.wait(lock, [&] { return !queue.busy; });
+  dropped.swap(queue.events);
+  queue.hasEvents = false;
+  lock.unlock();
+}
+
+void Stop() {
+  Queue& queue = TheQueue();
+  std::lock_guard threadLock(queue.threadMutex);
+  if (!queue.thread.joinable()) return;
+  {
+    std::lock_guard lock(queue.mutex);
+    queue.stopping = true;
+  }
+  queue.wake.notify_one();
+  queue.thread.join();
+  queue.thread = std::thread();
+  queue.stopping = false;
+}
+
+}  // namespace tarn::velora::offline
+
+namespace tarn::velora {
+
+void SwapEvents(std::vector<std::shared_ptr<Event>>& events) {
+  offline::RunHook("SwapEvents");
+  offline::Queue& queue = offline::TheQueue();
+  if (!queue.hasEvents) return;
+  std::lock_guard lock(queue.mutex);
+  events.swap(queue.events);
+  queue.hasEvents = !queue.events.empty();
+}
+
+}  // namespace tarn::velora

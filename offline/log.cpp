@@ -1,0 +1,109 @@
+// The log library: named channels, lines to stderr and to TakeLog. Logging never throws.
+#include "platform/log.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cstdarg>
+#include <cstdio>
+#include <exception>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "offline/calls.h"
+#include "offline/control.h"
+#include "offline/log_lines.h"
+#include "platform/operations.h"
+
+namespace tarn::velora {
+
+std::uint32_t LogChannel = 0;
+
+}  // namespace tarn::velora
+
+namespace tarn::log {
+namespace {
+
+struct LogState {
+  velora::offline::LineBuffer lines;
+  std::atomic<bool> toStderr = true;
+  std::mutex mutex;                   // of the channels
+  std::vector<std::string> channels;  // the id is the index plus one
+};
+
+// Never destroyed: a line may be logged while the process ends.
+LogState& TheLog() {
+  static LogState& log = *new LogState;
+  return log;
+}
+
+std::string ChannelName(std::uint32_t channel) {
+  LogState& log = TheLog();
+  std::lock_guard lock(log.mutex);
+  return channel >= 1 && channel <= log.channels.size() ? log.channels[channel - 1] : "?";
+}
+
+// Appends the formatted text, however long it is.
+void AppendFormatted(std::string& line, const char* format, std::va_list arguments) {
+  std::va_list again;
+  va_copy(again, arguments);
+  const int length = std::vsnprintf(nullptr, 0, format, again);
+  va_end(again);
+  if (length < 0) {
+    line += format;  // no text can be made of the arguments
+    return;
+  }
+  const std::size_t start = line.size();
+  line.resize(start + static_cast<std::size_t>(length) + 1);
+  std::vsnprintf(line.data() + start, static_cast<std::size_t>(length) + 1, format, arguments);
+  line.pop_back();
+}
+
+void Write(std::uint32_t channel, const char* level, const char* format, std::va_list arguments) {
+  try {
+    std::string line = "[" + ChannelName(channel) + "] " + level + " ";
+    if (format != nullptr) AppendFormatted(line, format, arguments);
+    if (TheLog().toStderr) std::fprintf(stderr, "%s\n", line.c_str());
+    TheLog().lines.Add(std::move(line));
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "[?] ERROR a log line is lost: %s\n", error.what());
+  }
+}
+
+}  // namespace
+
+std::uint32_t RegisterChannel(const char* name) {
+  const std::string text = name == nullptr ? "" : name;
+  LogState& log = TheLog();
+  std::lock_guard lock(log.mutex);
+  const auto found = std::find(log.channels.begin(), log.channels.end(), text);
+  const auto index = found - log.channels.begin();
+  if (found == log.channels.end()) log.channels.push_back(text);
+  return static_cast<std::uint32_t>(index) + 1;
+}
+
+void Log(std::uint32_t channel, std::int32_t level, const char* format, ...) {
+  char text[16];
+  std::snprintf(text, sizeof text, "%d", static_cast<int>(level));
+  std::va_list arguments;
+  va_start(arguments, format);
+  Write(channel, text, format, arguments);
+  va_end(arguments);
+}
+
+void LogError(std::uint32_t channel, const char* format, ...) {
+  std::va_list arguments;
+  va_start(arguments, format);
+  Write(channel, "ERROR", format, arguments);
+  va_end(arguments);
+}
+
+}  // namespace tarn::log
+
+namespace tarn::velora::offline {
+
+std::vector<std::string> TakeLog() { return log::TheLog().lines.Take(); }
+void SetLogToStderr(bool enabled) { log::TheLog().toStderr = enabled; }
+void ForgetLogLines() { log::TheLog().lines.Take(); }
+
+}  // namespace tarn::velora::offline

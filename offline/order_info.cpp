@@ -1,0 +1,139 @@
+// The runtime's payment orders and the product registry.
+#include "platform/order_info.h"
+
+#include "offline/record.h"
+#include "offline/state.h"
+
+namespace tarn::velora {
+namespace offline {
+namespace {
+
+class Order final : public OrderInfo, public Record {
+ public:
+  explicit Order(std::string madeWith) : Record("OrderInfo", std::move(madeWith)) {}
+
+#define RECORD_CLASS "OrderInfo"
+#define RECORD_FIELDS "platform/order_info.def"
+#include "offline/record_fields.inc"
+
+  bool produceCartInfo(std::string& out) override {
+    Call("OrderInfo.produceCartInfo", static_cast<const Record&>(*this));
+    return GiveText("OrderInfo.produceCartInfo", CartJson(), out);
+  }
+
+  bool toString(std::string& out) override { return GiveTextForm("OrderInfo.toString", *this, out); }
+
+  // What the registry knows of the product. Only for an order that nobody else has yet.
+  void Describe(const ProductInfo& product) {
+    productName_ = product.productName;
+    productPrice_ = product.productPrice;
+    productExchangeRatio_ = product.exchangeRatio;
+    sdkPids_ = product.sdkPids;
+  }
+
+ private:
+  std::string CartJson() {
+    const Quiet quiet;
+    std::string productId;
+    std::string productName;
+    get_productId(productId);
+    get_productName(productName);
+    JsonObject cart;
+    cart.Add("productId", productId);
+    cart.Add("productName", productName);
+    cart.Add("productPrice", get_productPrice());
+    cart.Add("count", get_count());
+    return cart.Text();
+  }
+};
+
+// Puts a product into the registry in the place of one of the same id.
+void Register(ProductInfo product) {
+  std::string productId = product.productId;
+  LockedState()->products.insert_or_assign(std::move(productId), std::move(product));
+}
+
+}  // namespace
+
+std::shared_ptr<OrderInfo> MakeOrder(const Fields& fields) { return MakeFilled<Order>(fields); }
+
+}  // namespace offline
+
+std::shared_ptr<OrderInfo> OrderInfo::New(const std::string& productId) {
+  offline::Call("OrderInfo.New", productId);
+  const auto order = offline::Produce<offline::Order>("OrderInfo.New", offline::Joined(productId));
+  if (order == nullptr) return nullptr;
+  order->productId_ = productId;
+  offline::LockedState state;
+  const auto registered = state->products.find(productId);
+  if (registered != state->products.end()) order->Describe(registered->second);
+  return order;
+}
+
+void OrderInfo::getProductList(std::unordered_map<std::string, ProductInfo>& out) {
+  offline::Call("OrderInfo.getProductList");
+  out = offline::LockedState()->products;
+}
+
+bool OrderInfo::hasProduct(const std::string& productId) {
+  offline::Call("OrderInfo.hasProduct", productId);
+  const bool registered = offline::LockedState()->products.contains(productId);
+  return offline::GiveFlag("OrderInfo.hasProduct", registered);
+}
+
+bool OrderInfo::hasProduct(const std::shared_ptr<OrderInfo>& order) {
+  offline::Call("OrderInfo.hasProduct", order);
+  bool registered = false;
+  if (order != nullptr) {
+    const offline::Quiet quiet;
+    std::string productId;
+    order->get_productId(productId);
+    registered = offline::LockedState()->products.contains(productId);
+  }
+  return offline::GiveFlag("OrderInfo.hasProduct", registered);
+}
+
+// Registers the bare id; a product that is known already keeps what is known of it.
+void OrderInfo::regProduct(const std::string& productId) {
+  offline::Call("OrderInfo.regProduct", productId);
+  ProductInfo product;
+  product.productId = productId;
+  offline::LockedState()->products.try_emplace(productId, std::move(product));
+}
+
+void OrderInfo::regProduct(const std::string& productId, const std::string& name, float price,
+                           std::int32_t exchangeRatio) {
+  offline::Call("OrderInfo.regProduct", productId, name, price, exchangeRatio);
+  offline::Register({productId, name, price, exchangeRatio, {}, {}, {}, {}, {}});
+}
+
+void OrderInfo::regProduct(const std::string& productId, const std::string& name, float price,
+                           std::int32_t exchangeRatio, const StringMap& sdkPids) {
+  offline::Call("OrderInfo.regProduct", productId, name, price, exchangeRatio, sdkPids);
+  offline::Register({productId, name, price, exchangeRatio, sdkPids, {}, {}, {}, {}});
+}
+
+std::int32_t OrderInfo::getProductType(const std::string& productId) {
+  offline::Call("OrderInfo.getProductType", productId);
+  std::int32_t type = 0;  // consumable
+  {
+    offline::LockedState state;
+    const auto found = state->productTypes.find(productId);
+    if (found != state->productTypes.end()) type = found->second;
+  }
+  return offline::GiveNumber("OrderInfo.getProductType", type);
+}
+
+void OrderInfo::setProductType(const std::string& productId, std::int32_t type) {
+  offline::Call("OrderInfo.setProductType", productId, type);
+  offline::LockedState()->productTypes.insert_or_assign(productId, type);
+}
+
+bool OrderInfo::obj2Json(const std::shared_ptr<OrderInfo>& order, std::string& out) {
+  offline::Call("OrderInfo.obj2Json", order);
+  const auto* made = dynamic_cast<const offline::Order*>(order.get());
+  if (made == nullptr) return offline::GiveText("OrderInfo.obj2Json", std::nullopt, out);
+  return offline::GiveText("OrderInfo.obj2Json", made->Json(*made), out);
+}
+
+}  // namespace tarn::velora

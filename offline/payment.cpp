@@ -1,0 +1,133 @@
+// Store items, orders and the list of checked orders.
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+#include "offline/calls.h"
+#include "offline/event_queue.h"
+#include "offline/state.h"
+#include "platform/operations.h"
+#include "platform/sku_details_info.h"
+
+namespace tarn::velora {
+
+using namespace offline;
+
+namespace {
+
+// Values of an order's status.
+constexpr std::int32_t kSdkCheckOk = 2;
+constexpr std::int32_t kSdkCheckFailed = 3;
+constexpr std::int32_t kServerCheckOk = 5;
+constexpr std::int32_t kServerCheckFailed = 6;
+constexpr std::int32_t kRestoreOk = 10;
+
+constexpr const char* kCurrency = "XTS";  // the code that is reserved for testing
+
+std::string OrderIdOf(OrderInfo& order) {
+  const Quiet quiet;
+  std::string orderId;
+  order.get_orderId(orderId);
+  return orderId;
+}
+
+// Runs on the runtime's thread: the order gets its status and, if it has none, an id; a good one joins the list.
+void FinishCheck(const std::shared_ptr<OrderInfo>& order, std::int32_t status) {
+  const Quiet quiet;
+  if (OrderIdOf(*order).empty()) {
+    const std::int32_t number = ++LockedState()->lastOrderNumber;
+    order->set_orderId("offline-order-" + std::to_string(number));
+  }
+  order->set_orderStatus(status);
+  if (status != kSdkCheckOk && status != kRestoreOk) return;
+  LockedState state;
+  auto& checked = state->checkedOrders;
+  if (std::find(checked.begin(), checked.end(), order) == checked.end()) checked.push_back(order);
+}
+
+void FinishConsume(const std::shared_ptr<OrderInfo>& order, std::int32_t status) {
+  const Quiet quiet;
+  order->set_orderStatus(status);
+  if (status == kServerCheckOk) std::erase(LockedState()->checkedOrders, order);
+}
+
+// An item as the store would describe it: what the product registry knows, else the id alone.
+std::shared_ptr<SkuDetailsInfo> DescribeSku(const std::string& type, const std::string& productId) {
+  ProductInfo product;
+  {
+    LockedState state;
+    const auto registered = state->products.find(productId);
+    if (registered != state->products.end()) product = registered->second;
+  }
+  const double price = std::isfinite(product.productPrice) ? static_cast<double>(product.productPrice) : 0;
+  char priceText[64];
+  char microsText[64];
+  std::snprintf(priceText, sizeof priceText, "%.2f", price);
+  std::snprintf(microsText, sizeof microsText, "%.0f", std::round(price * 1e6));
+  const Quiet quiet;
+  const auto sku = MakeSku({});
+  sku->set_productId(productId);
+  sku->set_type(type);
+  sku->set_title(product.productName.empty() ? productId : product.productName);
+  sku->set_price(priceText);
+  sku->set_priceAmountMicros(microsText);
+  sku->set_priceCurrencyCode(kCurrency);
+  return sku;
+}
+
+}  // namespace
+
+// One item per id; none when the answer is false.
+void zvQuerySkuDetails(const std::string& type, const StringList& productIds) {
+  Call(__func__, type, productIds);
+  std::vector<std::shared_ptr<SkuDetailsInfo>> skus;
+  if (GiveFlag(__func__, true)) {
+    for (const std::string& productId : productIds) skus.push_back(DescribeSku(type, productId));
+  }
+  Reply({MakeEvent<events::QuerySkuDetailsFinished>(std::move(skus))});
+}
+
+void zvCheckOrder(const std::shared_ptr<OrderInfo>& order) {
+  Call(__func__, order);
+  if (order == nullptr) return;
+  const auto status = GiveCode(__func__, kSdkCheckOk, kSdkCheckFailed);
+  Reply({MakeEvent<events::OrderCheckDone>(order)}, [order, status] { FinishCheck(order, status); });
+}
+
+void zvConsume(const std::shared_ptr<OrderInfo>& order) {
+  Call(__func__, order);
+  if (order == nullptr) return;
+  const auto status = GiveCode(__func__, kServerCheckOk, kServerCheckFailed);
+  Reply({MakeEvent<events::OrderCosumeDone>(order)}, [order, status] { FinishConsume(order, status); });
+}
+
+void zvVerifyOrder() { Call(__func__); }
+void zvPrePay() { Call(__func__); }
+void zvQueryInventory() { Call(__func__); }
+
+void zvGetCheckedOrders(std::vector<std::shared_ptr<OrderInfo>>& out) {
+  Call(__func__);
+  out = LockedState()->checkedOrders;
+}
+
+void zvRemoveCheckedOrders(const std::string& orderId) {
+  Call(__func__, orderId);
+  std::vector<std::shared_ptr<OrderInfo>> removed = LockedState()->checkedOrders;  // ids are read without the lock
+  std::erase_if(removed, [&](const auto& order) { return order == nullptr || OrderIdOf(*order) != orderId; });
+  LockedState state;
+  std::erase_if(state->checkedOrders,
+                [&](const auto& order) { return std::find(removed.begin(), removed.end(), order) != removed.end(); });
+}
+
+bool getFFChannelByPid(const std::string& productId, std::string& out) {
+  Call(__func__, productId);
+  const bool registered = LockedState()->products.contains(productId);
+  return GiveText(__func__, registered ? std::optional<std::string>("offline_ff_channel") : std::nullopt, out);
+}
+
+std::int32_t DRPF(const std::string& text) {
+  Call(__func__, text);
+  return GiveNumber(__func__, 0);
+}
+
+}  // namespace tarn::velora

@@ -1,0 +1,31 @@
+// The common part of records, and their count.
+#include "offline/record.h"
+
+#include <atomic>
+
+namespace tarn::velora::offline {
+namespace {
+
+std::atomic<std::size_t> liveRecords = 0;
+
+}  // namespace
+
+Record::Record(const char* recordClass, std::string madeWith)
+    : recordClass_(recordClass), madeWith_(std::move(madeWith)) {
+  ++liveRecords;
+}
+
+Record::~Record() { --liveRecords; }
+
+bool Record::ReadText(const char* operation, const std::string& field, std::string& out) const {
+  return GiveText(operation, Read(operation, field), out);
+}
+
+bool Record::ReadMap(const char* operation, const StringMap& field, StringMap& out) const {
+  out = Read(operation, field);
+  return GiveFlag(operation, true);
+}
+
+std::size_t LiveRecords() { return liveRecords; }
+
+}  // namespace tarn::velora::offline

@@ -1,0 +1,154 @@
+// What the runtime's records have in common: fields that any thread may read and write, filling by name, text forms.
+// record_fields.inc makes a class's members and accessors from its .def file.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+
+#include "offline/calls.h"
+#include "offline/control.h"
+#include "offline/field_value.h"
+#include "offline/json.h"
+#include "platform/types.h"
+
+namespace tarn::velora::offline {
+
+// The C++ type of a field of each accessor family.
+namespace families {
+using String = std::string;
+using Int = std::int32_t;
+using Int64 = std::int64_t;
+using Float = float;
+using Double = double;
+using IntAsNumber = std::int32_t;
+using Bool = bool;
+using StringMap = velora::StringMap;
+using IntMap = velora::IntMap;
+using StrictList = velora::StringList;
+using CachedList = velora::StringList;
+using CachedMap = velora::StringMap;
+using RecordMap = velora::StringMap;
+}  // namespace families
+
+// How a setter takes a value of that type.
+template <class Value>
+using Parameter = std::conditional_t<std::is_arithmetic_v<Value>, Value, const Value&>;
+
+class Record {
+ public:
+  // `madeWith` is the text of the arguments that the record was made with, as call lines give it.
+  Record(const char* recordClass, std::string madeWith);
+  Record(const Record&) = delete;
+  Record& operator=(const Record&) = delete;
+
+  const char* RecordClass() const { return recordClass_; }
+  const std::string& MadeWith() const { return madeWith_; }
+
+  // The fields of the record, which is `self`, that are not as they were born.
+  template <class Derived>
+  std::string Json(const Derived& self) const {
+    JsonObject object;
+    std::lock_guard lock(mutex_);
+    Derived::EachField(self, [&](const char* name, const auto& field) { object.AddUnlessDefault(name, field); });
+    return object.Text();
+  }
+
+ protected:
+  ~Record();
+
+  // The getters and setters of a class, by shape. Each runs the hook first.
+  bool ReadText(const char* operation, const std::string& field, std::string& out) const;
+  bool ReadMap(const char* operation, const StringMap& field, StringMap& out) const;
+
+  template <class Value>
+  Value Read(const char* operation, const Value& field) const {
+    RunHook(operation);
+    std::lock_guard lock(mutex_);
+    return field;
+  }
+
+  template <class Value>
+  void Write(const char* operation, Value& field, Parameter<Value> value) {
+    RunHook(operation);
+    Value fresh = value;
+    std::lock_guard lock(mutex_);  // released before the old value is
+    std::swap(field, fresh);
+  }
+
+  // A text producer of the record: call line, set answer, else `Class(made with) {fields}`.
+  template <class Derived>
+  bool GiveTextForm(const char* operation, const Derived& self, std::string& out) const {
+    Call(operation, static_cast<const Record&>(self));
+    std::string text;
+    Append(text, static_cast<const Record&>(self));
+    return GiveText(operation, text + " " + Json(self), out);
+  }
+
+ private:
+  const char* const recordClass_;
+  const std::string madeWith_;
+  mutable std::mutex mutex_;  // of the fields
+};
+
+// A new record with the fields named in `fields` set. Throws std::invalid_argument for a name that the class does not
+// have and for a value that does not fit.
+template <class Derived>
+std::shared_ptr<Derived> MakeFilled(const Fields& fields) {
+  auto record = std::make_shared<Derived>(std::string());
+  for (const auto& [name, value] : fields) {
+    const std::string label = std::string(record->RecordClass()) + "'s field '" + name + "'";
+    bool found = false;
+    Derived::EachField(*record, [&, &fieldName = name, &fieldValue = value](std::string_view candidate, auto& field) {
+      if (candidate != fieldName) return;
+      found = true;
+      try {
+        Store(fieldValue, field);
+      } catch (const std::invalid_argument& error) {
+        throw std::invalid_argument(label + " " + error.what());
+      }
+    });
+    if (!found) throw std::invalid_argument(label + " does not exist");
+  }
+  return record;
+}
+
+// What a factory answers: a new record unless the set answer is false.
+template <class Derived>
+std::shared_ptr<Derived> Produce(const char* operation, std::string madeWith) {
+  if (!GiveFlag(operation, true)) return nullptr;
+  return std::make_shared<Derived>(std::move(madeWith));
+}
+
+}  // namespace tarn::velora::offline
+
+// The getter of a field of each family, as record_fields.inc puts it into the class named RECORD_CLASS.
+#define READ_TEXT(name) \
+  bool get_##name(std::string& out) override { return ReadText(RECORD_CLASS ".get_" #name, name##_, out); }
+#define READ_VALUE(name, family) \
+  families::family get_##name() override { return Read(RECORD_CLASS ".get_" #name, name##_); }
+#define READ_CONTAINER(name, family) \
+  void get_##name(families::family& out) override { out = Read(RECORD_CLASS ".get_" #name, name##_); }
+#define READ_RECORD_MAP(name) \
+  bool get_##name(velora::StringMap& out) override { return ReadMap(RECORD_CLASS ".get_" #name, name##_, out); }
+
+#define GETTER_String(name) READ_TEXT(name)
+#define GETTER_Int(name) READ_VALUE(name, Int)
+#define GETTER_Int64(name) READ_VALUE(name, Int64)
+#define GETTER_Float(name) READ_VALUE(name, Float)
+#define GETTER_Double(name) READ_VALUE(name, Double)
+#define GETTER_IntAsNumber(name) READ_VALUE(name, IntAsNumber)
+#define GETTER_Bool(name) READ_VALUE(name, Bool)
+#define GETTER_StringMap(name) READ_CONTAINER(name, StringMap)
+#define GETTER_IntMap(name) READ_CONTAINER(name, IntMap)
+#define GETTER_StrictList(name) READ_CONTAINER(name, StrictList)
+#define GETTER_CachedList(name) READ_CONTAINER(name, CachedList)
+#define GETTER_CachedMap(name) READ_CONTAINER(name, CachedMap)
+#define GETTER_RecordMap(name) READ_RECORD_MAP(name)
