@@ -1,0 +1,328 @@
+// Reads payload values by their C++ type, fills each layout's fields in order, and finds the layout by the event's row.
+#include "player/event_maker.h"
+
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+#include "offline/control.h"
+#include "platform/account_info.h"
+#include "platform/binding_helpers.h"
+#include "platform/order_info.h"
+#include "platform/pad_record.h"
+#include "platform/sku_details_info.h"
+#include "player/arguments.h"
+#include "records/holder.h"
+
+namespace player {
+namespace {
+
+using namespace tarn::velora;
+
+// A value on the Lua stack, the argument that it belongs to, and what to call it in an error text.
+struct Value {
+  lua_State* L;
+  int index;
+  int argument;
+  std::string part = {};
+};
+
+[[noreturn]] void Fail(const Value& value, const std::string& text) {
+  throw ArgumentError(value.argument, value.part.empty() ? text : value.part + ": " + text);
+}
+
+[[noreturn]] void FailType(const Value& value, const char* expected) {
+  Fail(value, Mismatch(value.L, value.index, expected));
+}
+
+// The value on top of the stack, which belongs to `whole`.
+Value PartOnTop(const Value& whole, const std::string& part) {
+  return {whole.L, lua_gettop(whole.L), whole.argument, whole.part.empty() ? part : whole.part + ", " + part};
+}
+
+int TypeOf(const Value& value) { return lua_type(value.L, value.index); }
+
+void Read(const Value& value, lua_Integer& field) {
+  if (!ToInteger(value.L, value.index, field)) FailType(value, "integer");
+}
+
+// An integer arrives as its low 32 bits.
+void Read(const Value& value, std::int32_t& field) {
+  lua_Integer integer = 0;
+  Read(value, integer);
+  field = static_cast<std::int32_t>(static_cast<std::uint32_t>(integer));
+}
+
+// A flag may be given as the raw byte, to see what values other than 0 and 1 do.
+void Read(const Value& value, std::uint8_t& field) {
+  if (TypeOf(value) == LUA_TBOOLEAN) {
+    field = lua_toboolean(value.L, value.index) != 0 ? 1 : 0;
+    return;
+  }
+  if (TypeOf(value) != LUA_TNUMBER) FailType(value, "boolean or integer");
+  lua_Integer integer = 0;
+  Read(value, integer);
+  if (integer < 0 || integer > std::numeric_limits<std::uint8_t>::max()) Fail(value, "a flag byte lies in 0 to 255");
+  field = static_cast<std::uint8_t>(integer);
+}
+
+void Read(const Value& value, float& field) {
+  if (TypeOf(value) != LUA_TNUMBER) FailType(value, "number");
+  field = static_cast<float>(lua_tonumber(value.L, value.index));
+}
+
+void Read(const Value& value, std::string& field) {
+  if (TypeOf(value) != LUA_TSTRING) FailType(value, "string");
+  std::size_t length = 0;
+  const char* text = lua_tolstring(value.L, value.index, &length);
+  field.assign(text, length);
+}
+
+void Read(const Value& value, std::optional<std::string>& field) { Read(value, field.emplace()); }
+
+template <class Record>
+void Read(const Value& value, std::shared_ptr<Record>& field);
+
+template <class Element>
+void Read(const Value& value, std::vector<Element>& field) {
+  if (TypeOf(value) != LUA_TTABLE) FailType(value, "table");
+  field.resize(lua_rawlen(value.L, value.index));
+  for (std::size_t i = 0; i < field.size(); ++i) {
+    lua_rawgeti(value.L, value.index, static_cast<lua_Integer>(i + 1));
+    Read(PartOnTop(value, "element " + std::to_string(i + 1)), field[i]);
+    lua_pop(value.L, 1);
+  }
+}
+
+// Calls `visit(key, value)` for every pair of a table whose keys are strings.
+template <class Visitor>
+void ForEachPair(const Value& table, Visitor visit) {
+  lua_pushnil(table.L);
+  while (lua_next(table.L, table.index) != 0) {
+    if (lua_type(table.L, -2) != LUA_TSTRING) Fail(table, "a table with string keys expected");
+    const std::string key = lua_tostring(table.L, -2);
+    visit(key, PartOnTop(table, "field '" + key + "'"));
+    lua_pop(table.L, 1);
+  }
+}
+
+template <class Map>
+Map ReadMap(const Value& table) {
+  Map map;
+  ForEachPair(table, [&](const std::string& key, const Value& value) { Read(value, map[key]); });
+  return map;
+}
+
+// A table is a list where it has a first element, else a map of integers or of texts, as its values are.
+offline::FieldValue ReadContainer(const Value& table) {
+  const bool isList = lua_rawgeti(table.L, table.index, 1) != LUA_TNIL;
+  lua_pop(table.L, 1);
+  if (isList) {
+    StringList list;
+    Read(table, list);
+    return list;
+  }
+  bool hasIntegers = false;
+  ForEachPair(table, [&](const std::string&, const Value& value) { hasIntegers |= TypeOf(value) == LUA_TNUMBER; });
+  if (hasIntegers) return ReadMap<IntMap>(table);
+  return ReadMap<StringMap>(table);
+}
+
+offline::FieldValue ReadFieldValue(const Value& value) {
+  switch (TypeOf(value)) {
+    case LUA_TBOOLEAN:
+      return lua_toboolean(value.L, value.index) != 0;
+    case LUA_TNUMBER:
+      if (lua_isinteger(value.L, value.index)) return std::int64_t{lua_tointeger(value.L, value.index)};
+      return double{lua_tonumber(value.L, value.index)};
+    case LUA_TSTRING: {
+      std::string text;
+      Read(value, text);
+      return text;
+    }
+    case LUA_TTABLE:
+      return ReadContainer(value);
+    default:
+      FailType(value, "boolean, number, string or table");
+  }
+}
+
+// What a script knows of a record class, and how the runtime makes one.
+template <class Record>
+struct RecordClass;
+
+template <>
+struct RecordClass<OrderInfo> {
+  static constexpr const char* kExpected = "OrderInfo, table of its fields or nil";
+  static constexpr const char* kMetatable = "LuaOrderInfo";
+  static constexpr auto kMake = &offline::MakeOrder;
+};
+
+template <>
+struct RecordClass<AccountInfo> {
+  static constexpr const char* kExpected = "AccountInfo, table of its fields or nil";
+  static constexpr const char* kMetatable = "LuaAccountInfo";
+  static constexpr auto kMake = &offline::MakeAccount;
+};
+
+template <>
+struct RecordClass<SkuDetailsInfo> {
+  static constexpr const char* kExpected = "SkuDetailsInfo, table of its fields or nil";
+  static constexpr const char* kMetatable = "LuaSkuDetailsInfo";
+  static constexpr auto kMake = &offline::MakeSku;
+};
+
+template <>
+struct RecordClass<PadRecord> {
+  static constexpr const char* kExpected = "PadEvent, table of its fields or nil";
+  static constexpr const char* kMetatable = "LuaPadEvent";
+  static constexpr auto kMake = &offline::MakePad;
+};
+
+template <class Record>
+std::shared_ptr<Record> MakeRecord(const Value& table) {
+  offline::Fields fields;
+  ForEachPair(table, [&](const std::string& name, const Value& value) { fields.emplace(name, ReadFieldValue(value)); });
+  try {
+    return RecordClass<Record>::kMake(fields);
+  } catch (const std::invalid_argument& error) {
+    Fail(table, error.what());
+  }
+}
+
+// A record is a userdata of its class, which then shares it, or a table of fields; false, which unlike nil can stand
+// inside a list, is an empty reference too.
+template <class Record>
+void Read(const Value& value, std::shared_ptr<Record>& field) {
+  if (lua_toboolean(value.L, value.index) == 0) {
+    field.reset();
+  } else if (TypeOf(value) == LUA_TTABLE) {
+    field = MakeRecord<Record>(value);
+  } else if (CheckMetaTableInUserType(value.L, value.index, RecordClass<Record>::kMetatable)) {
+    const auto* holder = luavelora::HolderAt<luavelora::SharedRecordHolder<Record>>(value.L, value.index);
+    if (holder == nullptr) Fail(value, "the object is finished: its __gc was called");
+    field = *holder->record;
+  } else {
+    FailType(value, RecordClass<Record>::kExpected);
+  }
+}
+
+// The payload arguments of offline.post, taken one after the other.
+class Payload {
+ public:
+  Payload(lua_State* L, int first) : L_(L), next_(first) {}
+
+  template <class... Field>
+  void Read(Field&... fields) {
+    (ReadOne(fields), ...);
+  }
+
+  // A value too many is a mistake in the script.
+  void CheckEnd() const {
+    if (next_ <= lua_gettop(L_)) throw ArgumentError(next_, "the event carries no such value");
+  }
+
+ private:
+  template <class Field>
+  void ReadOne(Field& field) {
+    if (!lua_isnoneornil(L_, next_)) player::Read(Value{L_, next_, next_}, field);
+    ++next_;
+  }
+
+  lua_State* L_;
+  int next_;
+};
+
+// A layout that points to bytes, together with the bytes. The pointer stays null where none are given.
+template <class Layout>
+struct WithBytes : Layout {
+  using Layout::Layout;
+
+  void Point() {
+    if (!storage) return;
+    block = {reinterpret_cast<const unsigned char*>(storage->data()), storage->size()};
+    this->bytes = &block;
+  }
+
+  std::optional<std::string> storage;
+  ByteBlock block{};
+};
+
+void Fill(PlainEvent&, Payload&) {}
+void Fill(CodeEvent& event, Payload& payload) { payload.Read(event.code); }
+void Fill(CodeTextEvent& event, Payload& payload) { payload.Read(event.code, event.text); }
+void Fill(FlagEvent& event, Payload& payload) { payload.Read(event.flag); }
+void Fill(TextEvent& event, Payload& payload) { payload.Read(event.text); }
+void Fill(TextPairEvent& event, Payload& payload) { payload.Read(event.first, event.second); }
+void Fill(TextListEvent& event, Payload& payload) { payload.Read(event.texts); }
+void Fill(PadKeyEvent& event, Payload& payload) { payload.Read(event.keyCode, event.pad); }
+void Fill(PadPressureEvent& event, Payload& payload) { payload.Read(event.keyCode, event.pressure, event.pad); }
+void Fill(PadStickEvent& event, Payload& payload) { payload.Read(event.x, event.y, event.pad); }
+void Fill(PadStateEvent& event, Payload& payload) { payload.Read(event.pad); }
+void Fill(OrderEvent& event, Payload& payload) { payload.Read(event.order); }
+void Fill(AccountEvent& event, Payload& payload) { payload.Read(event.account); }
+void Fill(AccountListEvent& event, Payload& payload) { payload.Read(event.accounts); }
+void Fill(SkuListEvent& event, Payload& payload) { payload.Read(event.skus); }
+void Fill(WithBytes<BytesEvent>& event, Payload& payload) {
+  payload.Read(event.storage);
+  event.Point();
+}
+void Fill(WithBytes<TextBytesEvent>& event, Payload& payload) {
+  payload.Read(event.text, event.storage);
+  event.Point();
+}
+
+template <class Layout>
+std::shared_ptr<Event> Make(std::int32_t type, Payload& payload) {
+  constexpr bool hasBytes = std::is_same_v<Layout, BytesEvent> || std::is_same_v<Layout, TextBytesEvent>;
+  auto event = std::make_shared<std::conditional_t<hasBytes, WithBytes<Layout>, Layout>>(type);
+  Fill(*event, payload);
+  return event;
+}
+
+struct EventRow {
+  std::int32_t type;
+  std::string_view name;
+  std::shared_ptr<Event> (*make)(std::int32_t type, Payload& payload);
+};
+
+constexpr EventRow kEvents[] = {
+#define VELORA_EVENT(number, name, layout) {number, #name, Make<layout>},
+#include "platform/events.def"
+#undef VELORA_EVENT
+};
+
+// The row of an event by name, where the argument is a string, or of the event of that type.
+EventRow FindRow(lua_State* L, int index) {
+  if (lua_type(L, index) == LUA_TSTRING) {
+    const std::string_view name = CheckText(L, index);
+    for (const EventRow& row : kEvents)
+      if (row.name == name) return row;
+    throw ArgumentError(index, "no event is called '" + std::string(name) +
+                                   "'; the names are those of the callbacks, as LoginDone of setOnLoginDone");
+  }
+  if (lua_type(L, index) != LUA_TNUMBER) throw ArgumentError(index, Mismatch(L, index, "event name or number"));
+  const lua_Integer number = CheckInteger(L, index);
+  using Limits = std::numeric_limits<std::int32_t>;
+  if (number < Limits::min() || number > Limits::max()) throw ArgumentError(index, "an event number has 32 bits");
+  for (const EventRow& row : kEvents)
+    if (row.type == number) return row;
+  return {static_cast<std::int32_t>(number), {}, Make<PlainEvent>};
+}
+
+}  // namespace
+
+std::shared_ptr<Event> MakeEvent(lua_State* L) {
+  const EventRow row = FindRow(L, 1);
+  Payload payload(L, 2);
+  std::shared_ptr<Event> event = row.make(row.type, payload);
+  payload.CheckEnd();
+  return event;
+}
+
+}  // namespace player

@@ -1,0 +1,24 @@
+// Loading the module by name, as a game does.
+#pragma once
+
+#include <filesystem>
+
+#include "module/lua_velora.h"
+
+namespace player {
+
+// The module's entry points.
+struct Module {
+  decltype(&InitLuaVelora) init;
+  decltype(&UpdateLuaVelora) update;
+  decltype(&DeinitLuaVelora) deinit;
+};
+
+// Loads the library `file`; a plain name is looked up by the system's loader. The library stays loaded until the
+// process ends. Throws std::runtime_error with one line that says what is wrong.
+Module LoadModule(const std::filesystem::path& file);
+
+// The module's library that lies beside the running program.
+std::filesystem::path DefaultModule();
+
+}  // namespace player

@@ -1,0 +1,243 @@
+// velora-play: plays a script against the module and the offline runtime, as a game would, about 60 frames a second.
+#include <algorithm>
+#include <charconv>
+#include <chrono>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <exception>
+#include <filesystem>
+#include <limits>
+#include <lua.hpp>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <thread>
+
+#include "offline/control.h"
+#include "player/library.h"
+#include "player/offline_table.h"
+#include "player/player_table.h"
+
+#if defined(_WIN32)
+#include <fcntl.h>
+#include <io.h>
+#endif
+
+namespace player {
+namespace {
+
+constexpr int kFailed = 1;       // the script raised, or something could not be loaded
+constexpr int kOutOfFrames = 2;  // all frames passed without player.quit
+constexpr int kBadArguments = 64;
+
+constexpr const char* kUsage = "usage: velora-play [--module FILE] [--frames N] [--trace] SCRIPT [ARG...]\n";
+
+using Clock = std::chrono::steady_clock;
+constexpr Clock::duration kFrameTime = std::chrono::microseconds(16667);
+
+struct Options {
+  std::optional<std::filesystem::path> module;
+  std::int64_t frames = std::numeric_limits<std::int64_t>::max();
+  bool trace = false;
+  int script = 1;  // where the script's name stands in argv; the script's own arguments follow
+};
+
+// What the steps of one run work with.
+struct Game {
+  Module module;
+  int argc;
+  char** argv;
+  int script;
+  std::int64_t frame = 0;
+  QuitRequest quit = {};
+};
+
+std::int64_t ParseFrames(const char* text) {
+  std::int64_t frames = 0;
+  const char* end = text + std::strlen(text);
+  const auto [rest, error] = std::from_chars(text, end, frames);
+  if (error != std::errc() || rest != end || frames <= 0)
+    throw std::invalid_argument("--frames takes a number from 1 on, not '" + std::string(text) + "'");
+  return frames;
+}
+
+// Throws std::invalid_argument with a text that says what is wrong.
+Options ParseOptions(int argc, char** argv) {
+  Options options;
+  int next = 1;
+  while (next < argc && argv[next][0] == '-') {
+    const std::string option = argv[next++];
+    const auto value = [&]() -> const char* {
+      if (next == argc) throw std::invalid_argument(option + " takes a value");
+      return argv[next++];
+    };
+    if (option == "--module") {
+      options.module = value();
+    } else if (option == "--frames") {
+      options.frames = ParseFrames(value());
+    } else if (option == "--trace") {
+      options.trace = true;
+    } else {
+      throw std::invalid_argument("unknown option " + option);
+    }
+  }
+  if (next >= argc) throw std::invalid_argument("no script given");
+  options.script = next;
+  return options;
+}
+
+void Complain(const char* text) { std::fprintf(stderr, "velora-play: %s\n", text); }
+
+// The same bytes come out on every system, and no line of one stream waits while the other goes on.
+void PrepareOutput() {
+#if defined(_WIN32)
+  _setmode(_fileno(stdout), _O_BINARY);
+  _setmode(_fileno(stderr), _O_BINARY);
+  std::setvbuf(stdout, nullptr, _IONBF, 0);
+#else
+  std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
+#endif
+}
+
+// Message handler: gives the error's text and the traceback.
+int Traceback(lua_State* L) {
+  const char* text = lua_tostring(L, 1);
+  if (text == nullptr && luaL_callmeta(L, 1, "__tostring") != 0) text = lua_tostring(L, -1);
+  if (text == nullptr) text = lua_pushfstring(L, "(error object is a %s value)", luaL_typename(L, 1));
+  luaL_traceback(L, L, text, 1);
+  return 1;
+}
+
+// Calls the script's function below its arguments; an error goes on with a traceback added to its text.
+void CallScript(lua_State* L, int arguments) {
+  const int function = lua_gettop(L) - arguments;
+  lua_pushcfunction(L, Traceback);
+  lua_insert(L, function);
+  if (lua_pcall(L, arguments, 0, function) != LUA_OK) lua_error(L);
+  lua_remove(L, function);
+}
+
+// Sets the table `arg` as the program `lua` does: the script at 0, its arguments from 1 on, what came before below 0.
+void SetArguments(lua_State* L, const Game& game) {
+  lua_createtable(L, game.argc - game.script - 1, game.script + 1);
+  for (int i = 0; i < game.argc; ++i) {
+    lua_pushstring(L, game.argv[i]);
+    lua_rawseti(L, -2, i - game.script);
+  }
+  lua_setglobal(L, "arg");
+}
+
+// The steps run in protected mode, since the entry points may raise memory errors. They own nothing.
+
+Game& GameOf(lua_State* L) { return *static_cast<Game*>(lua_touserdata(L, 1)); }
+
+int Start(lua_State* L) {
+  Game& game = GameOf(L);
+  luaL_openlibs(L);
+  SetArguments(L, game);
+  OpenPlayerTable(L, game.quit);
+  OpenOfflineTable(L);
+  game.module.init(L);
+  return 0;
+}
+
+int RunScript(lua_State* L) {
+  const Game& game = GameOf(L);
+  if (luaL_loadfile(L, game.argv[game.script]) != LUA_OK) return lua_error(L);
+  const int arguments = game.argc - game.script - 1;
+  luaL_checkstack(L, arguments + 1, "too many arguments");
+  for (int i = game.script + 1; i < game.argc; ++i) lua_pushstring(L, game.argv[i]);
+  CallScript(L, arguments);
+  return 0;
+}
+
+int RunFrame(lua_State* L) {
+  const Game& game = GameOf(L);
+  game.module.update(L);
+  if (!PushFrameFunction(L)) return 0;
+  lua_pushinteger(L, game.frame);
+  CallScript(L, 1);
+  return 0;
+}
+
+int End(lua_State* L) {
+  GameOf(L).module.deinit(L);
+  return 0;
+}
+
+// Runs one step; says on stderr what went wrong and answers false where it raises.
+bool Protected(lua_State* L, lua_CFunction step, Game& game) {
+  lua_pushcfunction(L, step);
+  lua_pushlightuserdata(L, &game);
+  if (lua_pcall(L, 1, 0, 0) == LUA_OK) return true;
+  Complain(lua_type(L, -1) == LUA_TSTRING ? lua_tostring(L, -1) : "(error without a text)");
+  lua_pop(L, 1);
+  return false;
+}
+
+int RunFrames(lua_State* L, Game& game, std::int64_t frames) {
+  Clock::time_point next = Clock::now();
+  while (!game.quit.made) {
+    if (game.frame == frames) {
+      std::fprintf(stderr, "velora-play: frame %lld has passed without player.quit\n", static_cast<long long>(frames));
+      return kOutOfFrames;
+    }
+    std::this_thread::sleep_until(next);
+    // A frame that took long is followed by the next at once, but not by a burst that makes up for it.
+    next = std::max(next + kFrameTime, Clock::now());
+    ++game.frame;
+    if (!Protected(L, RunFrame, game)) return kFailed;
+  }
+  return game.quit.status;
+}
+
+int Play(lua_State* L, Game& game, std::int64_t frames) {
+  if (!Protected(L, Start, game)) return kFailed;
+  const int status = Protected(L, RunScript, game) ? RunFrames(L, game, frames) : kFailed;
+  Protected(L, End, game);
+  return status;
+}
+
+// The module outlives the Lua state, whose closing runs the module's finalisers; the runtime's thread outlives both.
+int PlayInNewState(Game& game, std::int64_t frames) {
+  lua_State* L = luaL_newstate();
+  if (L == nullptr) {
+    Complain("not enough memory for a Lua state");
+    return kFailed;
+  }
+  const int status = Play(L, game, frames);
+  lua_close(L);
+  return status;
+}
+
+int Main(int argc, char** argv) {
+  PrepareOutput();
+  Options options;
+  try {
+    options = ParseOptions(argc, argv);
+  } catch (const std::invalid_argument& error) {
+    Complain(error.what());
+    std::fputs(kUsage, stderr);
+    return kBadArguments;
+  }
+  tarn::velora::offline::SetTrace(options.trace);
+  Game game{LoadModule(options.module ? *options.module : DefaultModule()), argc, argv, options.script};
+  const int status = PlayInNewState(game, options.frames);
+  tarn::velora::offline::Stop();
+  return status;
+}
+
+}  // namespace
+}  // namespace player
+
+int main(int argc, char** argv) {
+  try {
+    return player::Main(argc, argv);
+  } catch (const std::exception& error) {
+    player::Complain(error.what());
+    return player::kFailed;
+  }
+}

@@ -1,0 +1,133 @@
+// The functions of the table `offline`, each one call of the runtime's control functions.
+#include "player/offline_table.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "offline/control.h"
+#include "platform/download.h"
+#include "player/arguments.h"
+#include "player/event_maker.h"
+
+namespace player {
+namespace {
+
+namespace offline = tarn::velora::offline;
+
+using Lines = std::vector<std::string>;
+
+// Runs in protected mode; the lines belong to the caller.
+int PushLinesProtected(lua_State* L) {
+  const Lines& lines = *static_cast<const Lines*>(lua_touserdata(L, 1));
+  lua_createtable(L, static_cast<int>(lines.size()), 0);
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    lua_pushlstring(L, lines[i].data(), lines[i].size());
+    lua_rawseti(L, -2, static_cast<lua_Integer>(i + 1));
+  }
+  return 1;
+}
+
+int PushLines(lua_State* L, Lines lines) {
+  lua_pushcfunction(L, PushLinesProtected);
+  lua_pushlightuserdata(L, &lines);
+  return lua_pcall(L, 1, 1, 0) == LUA_OK ? 1 : kErrorOnTop;
+}
+
+// offline.calls(): the SDK calls since the last time.
+int Calls(lua_State* L) { return PushLines(L, offline::TakeCalls()); }
+
+// offline.log(): the log lines since the last time.
+int Log(lua_State* L) { return PushLines(L, offline::TakeLog()); }
+
+offline::Answer ReadAnswer(lua_State* L, int index) {
+  switch (lua_type(L, index)) {
+    case LUA_TNIL:
+      return {};
+    case LUA_TBOOLEAN:
+      return lua_toboolean(L, index) != 0;
+    case LUA_TNUMBER:
+      return std::int64_t{CheckInteger(L, index)};
+    case LUA_TSTRING:
+      return std::string(CheckText(L, index));
+    default:
+      throw ArgumentError(index, Mismatch(L, index, "string, boolean, integer or nil"));
+  }
+}
+
+// offline.answer(name, value): what an operation answers from now on.
+int Answer(lua_State* L) {
+  const std::string name(CheckText(L, 1));
+  offline::SetAnswer(name, ReadAnswer(L, 2));
+  return 0;
+}
+
+// offline.post(event, ...): queues an event.
+int Post(lua_State* L) {
+  offline::Post(MakeEvent(L));
+  return 0;
+}
+
+// What the handlers' operations take. The texts stay on the Lua stack meanwhile.
+struct DownloadArguments {
+  const char* text = nullptr;
+  const char* bytes = nullptr;
+  std::uint64_t count = 0;
+};
+
+DownloadArguments ReadDownloadArguments(lua_State* L) {
+  DownloadArguments arguments;
+  if (!lua_isnoneornil(L, 2)) arguments.text = CheckText(L, 2).data();
+  lua_Integer length = LUA_MAXINTEGER;  // of a null pointer nobody reads, whatever the count
+  if (!lua_isnoneornil(L, 3)) {
+    arguments.bytes = CheckText(L, 3).data();
+    length = static_cast<lua_Integer>(CheckText(L, 3).size());
+  }
+  const lua_Integer whole = arguments.bytes != nullptr ? length : 0;
+  const lua_Integer count = lua_isnoneornil(L, 4) ? whole : CheckInteger(L, 4);
+  if (count < 0 || count > length) throw ArgumentError(4, "count must lie between 0 and the number of bytes given");
+  arguments.count = static_cast<std::uint64_t>(count);
+  return arguments;
+}
+
+using Handler = tarn::velora::download::SyncDownloadHandler;
+
+struct DownloadOperation {
+  std::string_view name;
+  int highestArgument;
+  void (*call)(Handler& handler, const DownloadArguments& arguments);
+};
+
+constexpr DownloadOperation kDownloadOperations[] = {
+    {"onInited", 1, [](Handler& handler, const DownloadArguments&) { handler.onInited(); }},
+    {"onProgress", 2, [](Handler& handler, const DownloadArguments& given) { handler.onProgress(given.text); }},
+    {"onFinish", 4,
+     [](Handler& handler, const DownloadArguments& given) { handler.onFinish(given.text, given.bytes, given.count); }},
+};
+
+// offline.download(operation, ...): calls every registered handler, here and now.
+int Download(lua_State* L) {
+  const std::string_view name = CheckText(L, 1);
+  for (const DownloadOperation& operation : kDownloadOperations) {
+    if (operation.name != name) continue;
+    if (lua_gettop(L) > operation.highestArgument)
+      throw ArgumentError(operation.highestArgument + 1, std::string(name) + " takes no such value");
+    const DownloadArguments arguments = ReadDownloadArguments(L);
+    for (Handler* handler : offline::Handlers()) operation.call(*handler, arguments);
+    return 0;
+  }
+  throw ArgumentError(1, "onInited, onProgress or onFinish expected, got '" + std::string(name) + "'");
+}
+
+constexpr luaL_Reg kFunctions[] = {{"calls", Entry<Calls>}, {"answer", Entry<Answer>},     {"post", Entry<Post>},
+                                   {"log", Entry<Log>},     {"download", Entry<Download>}, {nullptr, nullptr}};
+
+}  // namespace
+
+void OpenOfflineTable(lua_State* L) {
+  luaL_newlib(L, kFunctions);
+  lua_setglobal(L, "offline");
+}
+
+}  // namespace player
