@@ -1,0 +1,265 @@
+// Callback slots, the per-frame pass, and what each event gives its callback.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+
+#include "platform/binding_helpers.h"
+#include "platform/event.h"
+#include "tests/harness.h"
+
+namespace tests {
+namespace {
+
+namespace offline = tarn::velora::offline;
+using namespace tarn::velora;
+
+class Events : public VeloraTest {
+ protected:
+  void SetUp() override {
+    VeloraTest::SetUp();
+    host = std::make_unique<Host>();
+    host->Run(
+        "log = {} function note(...) log[#log + 1] = table.pack(...) end "
+        "function take() local l = log log = {} for _, e in ipairs(l) do e.n = nil end return table.unpack(l) end");
+  }
+  void TearDown() override {
+    host.reset();
+    VeloraTest::TearDown();
+  }
+
+  static void PostCode(int type, int code) {
+    auto event = std::make_shared<CodeEvent>(type);
+    event->code = code;
+    offline::Post(event);
+  }
+
+  std::unique_ptr<Host> host;
+};
+
+TEST_F(Events, SettersStoreFunctionsOnly) {
+  EXPECT_EQ(host->Run("return velora.getOnLoginDone()"), "");
+  EXPECT_EQ(host->Run("return velora.setOnLoginDone(print, 'ignored')"), "");
+  for (const char* bad : {"nil", "'x'", "{}", "", "velora, print", "setmetatable({}, {__call = print})"})
+    EXPECT_EQ(host->Run("velora.setOnLoginDone(" + std::string(bad) + ") return velora.getOnLoginDone(1) == print"),
+              "true")
+        << bad;
+  EXPECT_EQ(host->Run("velora:setOnLogoutDone(print) return velora.getOnLogoutDone()"), "");
+}
+
+TEST_F(Events, EachSlotIsItsOwn) {
+  EXPECT_EQ(host->Run("local n = 0 for k in pairs(velora) do local e = k:match('^setOn(.+)') if e then n = n + 1 "
+                      "local f = function() end velora['setOn' .. e](f) assert(velora['getOn' .. e]() == f) end end "
+                      "return n"),
+            "60");
+}
+
+TEST_F(Events, APassDeliversInOrderAndOnce) {
+  host->Run(
+      "velora.setOnLoginDone(function(...) note('in', ...) end) "
+      "velora.setOnLogoutDone(function(...) note('out', ...) end)");
+  PostCode(15, 1);
+  PostCode(16, -2);
+  PostCode(15, 3);
+  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(host->Run("return take()"), "{[1]=\"in\", [2]=1}, {[1]=\"out\", [2]=-2}, {[1]=\"in\", [2]=3}");
+  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(host->Run("return take()"), "");
+}
+
+TEST_F(Events, AnEventWithoutCallbackIsDroppedForGood) {
+  offline::Post(std::make_shared<OrderEvent>(17));
+  EXPECT_EQ(host->Frame(), "");
+  host->Run("velora.setOnOrderCheckDone(note)");
+  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(host->Run("return take()"), "");
+  EXPECT_TRUE(offline::TakeLog().empty());
+}
+
+TEST_F(Events, ErrorsAreLoggedAndThePassGoesOn) {
+  host->Run(
+      "velora.setOnLoginDone(function(code) note(code) if code < 9 then error(errors[code], 0) end end) "
+      "errors = {'text', 42, 1.5, {}, true, nil, coroutine.create(print), io.stdout}");
+  for (int code = 1; code <= 9; ++code) PostCode(15, code);
+  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(host->Run("return #log"), "9");
+  const char* const expected[] = {"text",
+                                  "42",
+                                  "1.5",
+                                  "(error object is a table value)",
+                                  "(error object is a boolean value)",
+                                  "(error object is a nil value)",
+                                  "(error object is a thread value)",
+                                  "(error object is a userdata value)"};
+  const auto lines = offline::TakeLog();
+  ASSERT_EQ(lines.size(), std::size(expected));
+  for (std::size_t i = 0; i < lines.size(); ++i)
+    EXPECT_EQ(lines[i], std::string("[VELORA] 0 [Velora callback err] ") + expected[i]);
+
+  host->Run("velora.setOnLoginDone(function() local x = nil; x() end)");
+  PostCode(15, 0);
+  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(
+      offline::TakeLog(),
+      std::vector<std::string>{"[VELORA] 0 [Velora callback err] test:1: attempt to call a nil value (local 'x')"});
+}
+
+TEST_F(Events, UnknownTypesAreLoggedOnlyWhereTheTableHoldsAValue) {
+  for (int type : {60, -1, 61}) offline::Post(std::make_shared<Event>(type));
+  EXPECT_EQ(host->Frame(), "");
+  EXPECT_TRUE(offline::TakeLog().empty());
+  GetSdkCallbackTable(host->L, "VELORA");
+  for (int key : {60, -1}) {
+    lua_pushboolean(host->L, 0);
+    lua_rawseti(host->L, -2, key);
+  }
+  lua_pop(host->L, 1);
+  for (int type : {60, -1, 61}) offline::Post(std::make_shared<Event>(type));
+  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(offline::TakeLog(), (std::vector<std::string>{"[VELORA] ERROR Unknown velora event 60",
+                                                          "[VELORA] ERROR Unknown velora event -1"}));
+}
+
+TEST_F(Events, CallbacksSetInAPassServeTheNextEventOfIt) {
+  host->Run(
+      "velora.setOnLoginDone(function() velora.setOnLogoutDone(function(...) note('new', ...) end) "
+      "velora.zvInit() end) velora.setOnLogoutDone(function() note('old') end) velora.setOnFinishInit(note)");
+  PostCode(15, 0);
+  PostCode(16, 5);
+  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(host->Run("return take()"), "{[1]=\"new\", [2]=5}");
+  host->FramesUntil("#log == 1");
+  EXPECT_EQ(host->Run("return take()"), "{[1]=0}");
+}
+
+// What a layout's callback receives when nothing of the payload is set, and when everything is.
+struct Layout {
+  std::function<std::shared_ptr<Event>(int, bool)> make;
+  const char* empty;
+  const char* full;
+};
+
+const std::string kCut("te\0xt", 5);
+constexpr unsigned char kBytes[] = {'a', 0, 'b'};
+constexpr ByteBlock kBlock{kBytes, 3};
+
+template <class Type, class Fill>
+Layout Describe(const char* empty, const char* full, Fill fill) {
+  return {[fill](int type, bool filled) {
+            auto event = std::make_shared<Type>(type);
+            if (filled) fill(*event);
+            return event;
+          },
+          empty, full};
+}
+
+const std::map<std::string, Layout> kLayouts = {
+    {"PlainEvent", Describe<PlainEvent>("", "", [](auto&) {})},
+    {"CodeEvent", Describe<CodeEvent>("0", "-2147483648", [](auto& e) { e.code = -2147483647 - 1; })},
+    {"CodeTextEvent", Describe<CodeTextEvent>("0, \"\"", "7, \"te\"", [](auto& e) { e.code = 7, e.text = kCut; })},
+    {"FlagEvent", Describe<FlagEvent>("false", "true", [](auto& e) { e.flag = 2; })},
+    {"TextEvent", Describe<TextEvent>("\"\"", "\"te\"", [](auto& e) { e.text = kCut; })},
+    {"TextPairEvent",
+     Describe<TextPairEvent>("\"\", \"\"", "\"a\", \"b\"", [](auto& e) { e.first = "a", e.second = "b"; })},
+    {"TextListEvent", Describe<TextListEvent>("{}", "{[1]=\"a\", [2]=\"te\", [3]=\"\"}",
+                                              [](auto& e) {
+                                                e.texts = {"a", kCut, ""};
+                                              })},
+    {"PadKeyEvent", Describe<PadKeyEvent>("0, nil", "96, \"PadEvent\"",
+                                          [](auto& e) { e.keyCode = 96, e.pad = offline::MakePad({}); })},
+    {"PadPressureEvent",
+     Describe<PadPressureEvent>("0, 0.0, nil", "96, 0.25, \"PadEvent\"",
+                                [](auto& e) { e.keyCode = 96, e.pressure = 0.25f, e.pad = offline::MakePad({}); })},
+    {"PadStickEvent", Describe<PadStickEvent>("0.0, 0.0, nil", "0.5, -1.0, \"PadEvent\"",
+                                              [](auto& e) { e.x = 0.5f, e.y = -1, e.pad = offline::MakePad({}); })},
+    {"PadStateEvent", Describe<PadStateEvent>("nil", "\"PadEvent\"", [](auto& e) { e.pad = offline::MakePad({}); })},
+    {"OrderEvent", Describe<OrderEvent>("nil", "\"OrderInfo\"", [](auto& e) { e.order = offline::MakeOrder({}); })},
+    {"AccountEvent",
+     Describe<AccountEvent>("nil", "\"AccountInfo\"", [](auto& e) { e.account = offline::MakeAccount({}); })},
+    {"AccountListEvent",
+     Describe<AccountListEvent>("{}", "{[1]=\"AccountInfo\", [3]=\"AccountInfo\"}",
+                                [](auto& e) {
+                                  e.accounts = {offline::MakeAccount({}), nullptr, offline::MakeAccount({})};
+                                })},
+    {"SkuListEvent",
+     Describe<SkuListEvent>("{}", "{[1]=\"SkuDetailsInfo\"}", [](auto& e) { e.skus = {offline::MakeSku({})}; })},
+    {"BytesEvent", Describe<BytesEvent>("nil", "\"a0b\"", [](auto& e) { e.bytes = &kBlock; })},
+    {"TextBytesEvent",
+     Describe<TextBytesEvent>("\"\", nil", "\"te\", \"a0b\"", [](auto& e) { e.text = kCut, e.bytes = &kBlock; })},
+};
+
+TEST_F(Events, EveryEventReachesItsCallbackWithItsArguments) {
+  struct Row {
+    int type;
+    const char* name;
+    const char* layout;
+  };
+  const Row rows[] = {
+#define VELORA_EVENT(type, name, Layout) {type, #name, #Layout},
+#include "platform/events.def"
+#undef VELORA_EVENT
+  };
+  // Names an object by the one class whose getter answers for it, and shows a zero byte as 0.
+  host->Run(R"(
+    local getters = {PadEvent = 'get_action', OrderInfo = 'get_count', AccountInfo = 'get_rank',
+                     SkuDetailsInfo = 'get_type'}
+    function name(v)
+      if type(v) == 'string' then return (v:gsub('\0', '0')) end
+      if type(v) == 'table' then local t = {} for k, e in pairs(v) do t[k] = name(e) end return t end
+      if type(v) ~= 'userdata' then return v end
+      local names = {}
+      for class, getter in pairs(getters) do
+        if velora[class][getter](v) ~= nil then names[#names + 1] = class end
+      end
+      return table.concat(names, '+')
+    end
+    function receive(...) got = table.pack(...) for i = 1, got.n do got[i] = name(got[i]) end end)");
+  for (const Row& row : rows) {
+    host->Run(std::string("velora.setOn") + row.name + "(receive)");
+    const Layout& layout = kLayouts.at(row.layout);
+    for (const bool filled : {false, true}) {
+      offline::Post(layout.make(row.type, filled));
+      EXPECT_EQ(host->Frame(), "");
+      EXPECT_EQ(host->Run("local g = got got = nil return table.unpack(g, 1, g.n)"),
+                filled ? layout.full : layout.empty)
+          << row.name;
+    }
+  }
+  host->Run("collectgarbage()");
+  EXPECT_EQ(offline::LiveRecords(), 0u);
+  EXPECT_TRUE(offline::TakeLog().empty());
+}
+
+TEST_F(Events, BlocksOfLengthZeroAreEmptyStrings) {
+  static constexpr ByteBlock kEmpty{kBytes, 0};
+  auto event = std::make_shared<TextBytesEvent>(59);
+  event->bytes = &kEmpty;
+  offline::Post(event);
+  host->Run("velora.setOnDownloadFinish2(note)");
+  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(host->Run("return take()"), "{[1]=\"\", [2]=\"\"}");
+}
+
+TEST_F(Events, ObjectsFromEventsStayUsableAndAreCollectedInAnyOrder) {
+  {
+    auto pad = offline::MakePad({{"keyCode", std::int64_t{96}},
+                                 {"eventTime", std::int64_t{1} << 40},
+                                 {"pressure", 0.25},
+                                 {"deviceId", std::int64_t{-3}}});
+    for (int i = 0; i < 2; ++i) {
+      auto event = std::make_shared<PadStateEvent>(10);
+      event->pad = pad;
+      offline::Post(event);
+    }
+  }
+  host->Run("pads = {} velora.setOnControllerStateEvent(function(pad) pads[#pads + 1] = pad end)");
+  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(host->Run("pads[1] = nil collectgarbage() local p = pads[2] return p:get_keyCode(), p:get_eventTime(), "
+                      "p:get_pressure(), p:get_deviceId(), velora.PadEvent.get_x(p)"),
+            "96, 1099511627776, 0.25, -3, 0.0");
+  EXPECT_EQ(offline::LiveRecords(), 1u);
+}
+
+}  // namespace
+}  // namespace tests

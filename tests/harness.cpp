@@ -1,0 +1,177 @@
+// The test host, its rendering of Lua values, and its memory that can run out.
+#include "tests/harness.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <new>
+#include <thread>
+
+namespace tests {
+namespace memory {
+namespace {
+
+thread_local long allowedAllocations = -1;  // negative: no limit
+thread_local bool failed = false;
+long luaBlocks = 0;
+
+bool Allow() {
+  if (allowedAllocations < 0) return true;
+  if (allowedAllocations > 0) {
+    --allowedAllocations;
+    return true;
+  }
+  failed = true;
+  return false;
+}
+
+}  // namespace
+
+void FailAfter(long allowed) {
+  failed = false;
+  allowedAllocations = allowed;
+}
+
+bool Restore() {
+  allowedAllocations = -1;
+  return failed;
+}
+
+void* LuaAllocator(void*, void* block, std::size_t oldSize, std::size_t newSize) {
+  if (newSize == 0) {
+    if (block != nullptr) --luaBlocks;
+    std::free(block);
+    return nullptr;
+  }
+  if ((block == nullptr || newSize > oldSize) && !Allow()) return nullptr;
+  if (block == nullptr) ++luaBlocks;
+  return std::realloc(block, newSize);
+}
+
+long LuaBlocksInUse() { return luaBlocks; }
+
+static void* Allocate(std::size_t size) {
+  void* block = Allow() ? std::malloc(size == 0 ? 1 : size) : nullptr;
+  if (block == nullptr) throw std::bad_alloc();
+  return block;
+}
+
+}  // namespace memory
+
+std::string Render(lua_State* L, int index) {
+  index = lua_absindex(L, index);
+  switch (lua_type(L, index)) {
+    case LUA_TSTRING: {
+      std::size_t size = 0;
+      const char* bytes = lua_tolstring(L, index, &size);
+      std::string text;
+      for (std::size_t i = 0; i < size; ++i) text += bytes[i] == '\0' ? std::string("\\0") : std::string(1, bytes[i]);
+      return '"' + text + '"';
+    }
+    case LUA_TTABLE: {
+      std::vector<std::string> entries;
+      lua_pushnil(L);
+      while (lua_next(L, index) != 0) {
+        const std::string key = Render(L, -2);
+        entries.push_back((lua_type(L, -2) == LUA_TSTRING ? key : '[' + key + ']') + '=' + Render(L, -1));
+        lua_pop(L, 1);
+      }
+      std::sort(entries.begin(), entries.end());
+      std::string text;
+      for (const std::string& entry : entries) text += (text.empty() ? "" : ", ") + entry;
+      return '{' + text + '}';
+    }
+    case LUA_TUSERDATA:
+    case LUA_TFUNCTION:
+    case LUA_TTHREAD:
+      return luaL_typename(L, index);
+    default: {
+      const std::string text = luaL_tolstring(L, index, nullptr);
+      lua_pop(L, 1);
+      return text;
+    }
+  }
+}
+
+Host::Host(bool initialise) : L(lua_newstate(memory::LuaAllocator, nullptr)) {
+  luaL_openlibs(L);
+  if (!initialise) return;
+  InitLuaVelora(L);
+  EXPECT_EQ(lua_gettop(L), 0);
+}
+
+Host::~Host() { Close(); }
+
+void Host::Close() {
+  if (L != nullptr) lua_close(L);
+  L = nullptr;
+}
+
+std::string Host::Run(const std::string& chunk) {
+  const int top = lua_gettop(L);
+  std::string text;
+  int status = luaL_loadbuffer(L, chunk.data(), chunk.size(), "=test");
+  if (status == LUA_OK) status = lua_pcall(L, 0, LUA_MULTRET, 0);
+  if (status != LUA_OK) {
+    const char* error = lua_tostring(L, -1);
+    text = "error: " + (error == nullptr ? Render(L, -1) : std::string(error));
+  } else {
+    for (int i = top + 1; i <= lua_gettop(L); ++i) text += (text.empty() ? "" : ", ") + Render(L, i);
+  }
+  lua_settop(L, top);
+  return text;
+}
+
+std::string Host::Frame() {
+  const int top = lua_gettop(L);
+  lua_pushcfunction(L, [](lua_State* state) {
+    UpdateLuaVelora(state);
+    return lua_gettop(state);
+  });
+  std::string text;
+  if (lua_pcall(L, 0, LUA_MULTRET, 0) != LUA_OK) {
+    text = lua_tostring(L, -1);
+    lua_pop(L, 1);
+  }
+  EXPECT_EQ(lua_gettop(L), top);
+  lua_settop(L, top);
+  return text;
+}
+
+void Host::FramesUntil(const std::string& expression) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(2);
+  while (Run("return (" + expression + ") and true") != "true") {
+    ASSERT_LT(std::chrono::steady_clock::now(), end) << "waited for " << expression;
+    ASSERT_EQ(Frame(), "");
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+}
+
+void Check(Host& host, const std::vector<Fact>& facts) {
+  tarn::velora::offline::TakeCalls();
+  for (const Fact& fact : facts) {
+    EXPECT_EQ(host.Run(fact.chunk), fact.results) << fact.chunk;
+    EXPECT_EQ(tarn::velora::offline::TakeCalls(), fact.calls) << fact.chunk;
+  }
+}
+
+void VeloraTest::SetUp() {
+  tarn::velora::offline::SetLogToStderr(false);
+  tarn::velora::offline::Reset();
+}
+
+void VeloraTest::TearDown() {
+  tarn::velora::offline::Reset();
+  EXPECT_EQ(tarn::velora::offline::LiveRecords(), 0u);
+  EXPECT_EQ(memory::LuaBlocksInUse(), 0);
+}
+
+}  // namespace tests
+
+// The program's own allocation functions, so that they can be made to fail.
+void* operator new(std::size_t size) { return tests::memory::Allocate(size); }
+void* operator new[](std::size_t size) { return tests::memory::Allocate(size); }
+void operator delete(void* block) noexcept { std::free(block); }
+void operator delete[](void* block) noexcept { std::free(block); }
+void operator delete(void* block, std::size_t) noexcept { std::free(block); }
+void operator delete[](void* block, std::size_t) noexcept { std::free(block); }

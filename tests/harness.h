@@ -1,0 +1,74 @@
+// A small host for tests: one Lua state with the module initialised, against the offline runtime.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <lua.hpp>
+#include <string>
+#include <vector>
+
+#include "module/lua_velora.h"
+#include "offline/control.h"
+
+namespace tests {
+
+// Memory that can be made to run out, for Lua's allocator and for operator new on the calling thread alike.
+namespace memory {
+
+// Lets every allocation after the next `allowed` ones fail, until Restore. Shrinking and freeing always succeed.
+void FailAfter(long allowed);
+
+// Ends the shortage and tells whether an allocation failed meanwhile.
+bool Restore();
+
+// The allocator of the test states; blocks in use are counted.
+void* LuaAllocator(void*, void* block, std::size_t oldSize, std::size_t newSize);
+long LuaBlocksInUse();
+
+}  // namespace memory
+
+class Host {
+ public:
+  // A state with the standard libraries and, unless `initialise` is false, the module.
+  explicit Host(bool initialise = true);
+  ~Host();
+  Host(const Host&) = delete;
+  Host& operator=(const Host&) = delete;
+
+  // Runs a chunk named "test" and renders its results: "" for none, else the values joined by ", ", strings in
+  // quotes with \0 for a zero byte, floats with a point, tables in braces with sorted keys, "error: text" for an error.
+  std::string Run(const std::string& chunk);
+
+  // Runs one frame and checks that the stack height is unchanged. "" or the text of a Lua error that left it.
+  std::string Frame();
+
+  // Runs frames until the Lua expression is true; fails the test after two seconds.
+  void FramesUntil(const std::string& expression);
+
+  // Closes the state before the host goes.
+  void Close();
+
+  lua_State* L = nullptr;
+};
+
+// Renders the value at `index`, as Host::Run says.
+std::string Render(lua_State* L, int index);
+
+// One row of a table of facts: a chunk, what it gives, and the SDK calls that it makes.
+struct Fact {
+  const char* chunk;
+  const char* results;
+  std::vector<std::string> calls;
+};
+
+// Runs each fact in one host; the calls must be exactly those named.
+void Check(Host& host, const std::vector<Fact>& facts);
+
+// Starts each test from an empty offline runtime, and checks at its end that every record and block is gone.
+class VeloraTest : public testing::Test {
+ protected:
+  void SetUp() override;
+  void TearDown() override;
+};
+
+}  // namespace tests

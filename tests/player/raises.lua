@@ -1,0 +1,1 @@
+error("as it must")

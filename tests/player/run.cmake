@@ -1,0 +1,22 @@
+# Plays one script and compares exit status and output with what is expected. Variables: PLAYER (a command line),
+# ARGUMENTS, STATUS, and STDOUT and STDERR, files with the expected text where it matters.
+separate_arguments(PLAYER UNIX_COMMAND "${PLAYER}")
+separate_arguments(ARGUMENTS UNIX_COMMAND "${ARGUMENTS}")
+execute_process(COMMAND ${PLAYER} ${ARGUMENTS} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err
+                TIMEOUT 60)
+if(NOT status EQUAL STATUS)
+  message(FATAL_ERROR "exit status ${status}, not ${STATUS}\n${out}\n${err}")
+endif()
+
+function(compare name actual file)
+  file(READ ${file} expected)
+  if(NOT actual STREQUAL expected)
+    message(FATAL_ERROR "${name} differs from ${file}:\n${actual}")
+  endif()
+endfunction()
+if(STDOUT)
+  compare(stdout "${out}" ${STDOUT})
+endif()
+if(STDERR)
+  compare(stderr "${err}" ${STDERR})
+endif()

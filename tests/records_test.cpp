@@ -1,0 +1,386 @@
+// The seven record classes, walked field by field from the row files.
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "tests/harness.h"
+
+namespace tests {
+namespace {
+
+namespace offline = tarn::velora::offline;
+
+class Records : public VeloraTest {
+ protected:
+  void TearDown() override {
+    host.Close();
+    VeloraTest::TearDown();
+  }
+
+  Host host;
+};
+
+struct Field {
+  const char* name;
+  std::string family;
+  bool readOnly;
+};
+
+struct Class {
+  const char* name;
+  const char* make;
+  std::vector<Field> fields;
+};
+
+#define VELORA_FIELD(name, Family) {#name, #Family, false},
+#define VELORA_FIELD_READ_ONLY(name, Family) {#name, #Family, true},
+const Class kClasses[] = {
+    {"ProductInfo",
+     "velora.ProductInfo.new()",
+     {
+#include "platform/product_info.def"
+     }},
+    {"OrderInfo",
+     "velora.OrderInfo.new('gold')",
+     {
+#include "platform/order_info.def"
+     }},
+    {"QueryRankInfo",
+     "velora.QueryRankInfo.new()",
+     {
+#include "platform/query_rank_info.def"
+     }},
+    {"ShareInfo",
+     "velora.ShareInfo.new()",
+     {
+#include "platform/share_info.def"
+     }},
+    {"AccountInfo",
+     "velora.AccountInfo.new()",
+     {
+#include "platform/account_info.def"
+     }},
+    {"SkuDetailsInfo",
+     "velora.SkuDetailsInfo.new(1, 2, 3, 4, 5, 6, 7)",
+     {
+#include "platform/sku_details_info.def"
+     }},
+};
+#undef VELORA_FIELD
+#undef VELORA_FIELD_READ_ONLY
+
+// What is set, and what is read back, per family.
+struct RoundTrip {
+  const char* value;
+  const char* back;
+};
+
+const std::map<std::string, std::vector<RoundTrip>> kRoundTrips = {
+    {"String",
+     {{"'text'", "\"text\""},
+      {"12", "\"12\""},
+      {"1.5", "\"1.5\""},
+      {"'ab\\0c'", "\"ab\""},
+      {"nil", "\"\""},
+      {"'x'", "\"x\""},
+      {"{}", "\"\""},
+      {"true", "\"\""},
+      {"('y'):rep(5000)", nullptr}}},
+    {"Int",
+     {{"7", "7"},
+      {"-1", "-1"},
+      {"2^32 + 5", "5"},
+      {"2.5", "0"},
+      {"'7'", "7"},
+      {"'x'", "0"},
+      {"3.0", "3"},
+      {"nil", "0"},
+      {"{}", "0"},
+      {"1 << 31", "-2147483648"}}},
+    {"Int64", {{"1 << 40", "1099511627776"}, {"math.mininteger", "-9223372036854775808"}, {"2.5", "0"}, {"'9'", "9"}}},
+    {"Float",
+     {{"0.5", "0.5"},
+      {"0.1", "0.10000000149012"},
+      {"3", "3.0"},
+      {"'2.5'", "2.5"},
+      {"{}", "0.0"},
+      {"nil", "0.0"},
+      {"1e300", "inf"}}},
+    {"Double", {{"0.1", "0.1"}, {"'2.5'", "2.5"}, {"true", "0.0"}, {"1e300", "1e+300"}}},
+    {"Bool", {{"0", "true"}, {"nil", "false"}, {"''", "true"}, {"false", "false"}}},
+    {"StringMap", {{"{a = 1, b = true}", "{\"a\"=\"1\"}"}, {"{}", "{}"}}},
+    {"IntMap", {{"{a = 2^32 + 3, b = 'x'}", "{\"a\"=3, \"b\"=0}"}, {"{}", "{}"}}},
+    {"CachedMap", {{"{a = '1', b = 2, c = true}", "{\"a\"=\"1\", \"b\"=\"2\"}"}, {"{}", "{}"}}},
+    {"RecordMap", {{"{a = '1', c = true}", "{\"a\"=\"1\"}"}, {"{}", ""}}},
+    {"CachedList",
+     {{"{'a', 2}", "{[1]=\"a\", [2]=\"2\"}"}, {"{'a', true, 'b'}", "{[1]=\"a\", [2]=\"b\"}"}, {"{}", "{}"}}},
+    {"StrictList", {{"{'a', 5}", "{[1]=\"a\", [2]=\"5\"}"}, {"{}", "{}"}}},
+};
+
+TEST_F(Records, EveryFieldGoesThereAndBack) {
+  for (const Class& type : kClasses) {
+    host.Run(std::string("object = ") + type.make);
+    const std::string table = std::string("velora.") + type.name;
+    for (const Field& field : type.fields) {
+      const std::string get = table + ".get_" + field.name, set = table + ".set_" + field.name;
+      EXPECT_EQ(host.Run("return type(" + get + "), type(" + set + ")"),
+                field.readOnly ? "\"function\", \"nil\"" : "\"function\", \"function\"")
+          << get;
+      if (field.readOnly) continue;
+      for (const RoundTrip& trip : kRoundTrips.at(field.family)) {
+        EXPECT_EQ(host.Run("return " + set + "(object, " + trip.value + ")"), "") << set << trip.value;
+        const std::string back = trip.back == nullptr ? '"' + std::string(5000, 'y') + '"' : trip.back;
+        EXPECT_EQ(host.Run("return object:get_" + std::string(field.name) + "(1)"), back) << get << trip.value;
+      }
+    }
+  }
+}
+
+TEST_F(Records, FieldsDoNotShareTheirPlaces) {
+  for (const Class& type : kClasses) {
+    host.Run(std::string("object = ") + type.make);
+    int next = 0;
+    std::string get = "return ", expected;
+    for (const Field& field : type.fields) {
+      if (field.readOnly || (field.family != "String" && field.family.find("Int") != 0)) continue;
+      if (field.family == "IntMap") continue;
+      ++next;
+      host.Run("object:set_" + std::string(field.name) + "(" + std::to_string(next) + ")");
+      get += (expected.empty() ? "" : ", ") + ("tostring(object:get_" + std::string(field.name) + "())");
+      expected += (expected.empty() ? "\"" : ", \"") + std::to_string(next) + '"';
+    }
+    EXPECT_EQ(host.Run(get), expected) << type.name;
+  }
+}
+
+TEST_F(Records, ReadOnlyFieldsShowWhatTheSdkHolds) {
+  auto order = offline::MakeOrder({{"orderErrCode", std::string("E1")},
+                                   {"productExchangeRatio", std::int64_t{1}},
+                                   {"productPrice", 0.1},
+                                   {"timeStamp", std::int64_t{1} << 40},
+                                   {"receipt", std::string("r")},
+                                   {"sdkPids", tarn::velora::StringMap{{"a", "b"}}},
+                                   {"channelGoodsTypes", tarn::velora::IntMap{{"a", -1}}},
+                                   {"jellRatios", tarn::velora::IntMap{}}});
+  offline::SetCheckedOrders({order});
+  host.Run("order = velora.zvGetCheckedOrders()[1]");
+  offline::SetCheckedOrders({});
+  EXPECT_EQ(host.Run("return order:get_orderErrCode(), order:get_productExchangeRatio(), order:get_productPrice(), "
+                     "order:get_timeStamp(), order:get_receipt(), order:get_sdkPids(), order:get_channelGoodsTypes()"),
+            "\"E1\", 1.0, 0.10000000149012, 1099511627776, \"r\", {\"a\"=\"b\"}, {\"a\"=-1}");
+  EXPECT_EQ(host.Run("return order:get_jellRatios()"), "");
+  EXPECT_EQ(host.Run("return velora.OrderInfo.new(1):get_sdkPids()"), "");
+  EXPECT_EQ(host.Run("return velora.OrderInfo.new(1):get_arrPriceLocaleId()"), "{}");
+}
+
+// Calls every class function that takes an object with each of `selves`, and with no argument; none may answer.
+const char* const kCallAll = R"(
+  for name, class in pairs(velora) do
+    if type(class) == 'table' and class.__gc then
+      for key, f in pairs(class) do
+        if key ~= 'new' and not key:find('Product') or key:find('^[sg]et_') then
+          for _, self in ipairs(selves) do
+            local n = select('#', f(self, 1, 2))
+            if n ~= 0 then error(name .. '.' .. key .. ' gave ' .. n) end
+          end
+          if select('#', f()) ~= 0 then error(key) end
+        end
+      end
+    end
+  end)";
+
+TEST_F(Records, AWrongSelfGetsNothing) {
+  host.Run("selves = {1, true, {}, print, io.stdout, coroutine.create(print)}");
+  EXPECT_EQ(host.Run(kCallAll), "");
+  // Each class's functions with an object of every other class.
+  EXPECT_EQ(host.Run(R"(
+    local objects = {ProductInfo = velora.ProductInfo.new(), OrderInfo = velora.OrderInfo.new(1),
+                     QueryRankInfo = velora.QueryRankInfo.new(), ShareInfo = velora.ShareInfo.new(),
+                     AccountInfo = velora.AccountInfo.new(), SkuDetailsInfo = velora.SkuDetailsInfo.new(1,2,3,4,5,6,7)}
+    for class, table in pairs(velora) do
+      if type(table) == 'table' and table.__gc then
+        for other, object in pairs(objects) do
+          for key, f in pairs(table) do
+            if other ~= class and (key:find('et_') or key:find('__') or key == 'obj2Json' or key == 'produceCartInfo')
+               and select('#', f(object, 1)) ~= 0 then return class, key, other end
+          end
+        end
+      end
+    end)"),
+            "");
+}
+
+TEST_F(Records, AFinishedObjectIsAWrongSelf) {
+  host.Run(
+      "selves = {velora.ProductInfo.new(), velora.OrderInfo.new(1), velora.QueryRankInfo.new(), "
+      "velora.ShareInfo.new(), velora.AccountInfo.new(), velora.SkuDetailsInfo.new(1, 2, 3, 4, 5, 6, 7)}");
+  EXPECT_EQ(host.Run("for _, name in ipairs{'ProductInfo', 'OrderInfo', 'QueryRankInfo', 'ShareInfo', 'AccountInfo', "
+                     "'SkuDetailsInfo'} do for _, self in ipairs(selves) do velora[name].__gc(self) "
+                     "velora[name].__gc(self) end end"),
+            "");
+  EXPECT_EQ(offline::LiveRecords(), 0u);
+  offline::TakeCalls();
+  EXPECT_EQ(host.Run(kCallAll), "");
+  EXPECT_EQ(host.Run("for _, self in ipairs(selves) do velora.zvCheckOrder(self) velora.zvConsume(self) "
+                     "velora.zvQueryRank(self) velora.zvShare(self) velora.zvCheckArgs(self) "
+                     "velora.OrderInfo.regProduct(self) assert(velora.OrderInfo.hasProduct(self) == false) end"),
+            "");
+  EXPECT_TRUE(offline::TakeCalls().empty());
+  EXPECT_EQ(host.Run("return tostring(selves[2])"), "error: test:1: '__tostring' must return a string");
+}
+
+TEST_F(Records, ConstructorsAnswerAsTheirClassSays) {
+  Check(
+      host,
+      {
+          {"velora.ProductInfo.new({}, 1)", "", {}},
+          {"velora.OrderInfo.new(42)", "", {"New(\"42\")"}},
+          {"velora.OrderInfo.new('a\\0b')", "", {"New(\"a\")"}},
+          {"velora.OrderInfo.new({})", "error: test:1: velora.OrderInfo must be init with productId of type str!", {}},
+          {"velora.OrderInfo.new()", "error: test:1: velora.OrderInfo must be init with productId of type str!", {}},
+          {"return velora.SkuDetailsInfo.new(1, 2, 3, 4, 5, 6)", "", {}},
+          {"return velora.SkuDetailsInfo.new(1, 2, 3, 4, 5, 6, {})", "", {}},
+          {"velora.SkuDetailsInfo.new(1, 'b', 3, 4, 5, 6.0, 7, {})",
+           "",
+           {"New(\"1\", \"b\", \"3\", \"4\", \"5\", \"6.0\", \"7\")"}},
+      });
+  for (const std::string name : {"QueryRankInfo", "ShareInfo", "AccountInfo"}) {
+    const std::string make = "return velora." + name + ".new";
+    const std::vector<std::string> none;
+    EXPECT_EQ(host.Run(make + "()"), "userdata");
+    EXPECT_EQ(offline::TakeCalls(), std::vector<std::string>{"New()"});
+    EXPECT_EQ(host.Run(make + "(42, 1)"), "userdata");
+    EXPECT_EQ(offline::TakeCalls(), std::vector<std::string>{"New(\"42\")"});
+    for (const char* bad : {"({})", "(nil)", "(true)"}) EXPECT_EQ(host.Run(make + bad), "");
+    EXPECT_EQ(host.Run("return velora." + name + ":new()"), "");
+    EXPECT_EQ(offline::TakeCalls(), none);
+  }
+  for (const Class& type : kClasses) {
+    if (type.name == std::string("ProductInfo")) continue;
+    offline::SetAnswer(type.name + std::string(".New"), false);
+    EXPECT_EQ(host.Run(std::string("return ") + type.make),
+              std::string("error: test:1: velora.") + type.name + " is not supported!");
+  }
+}
+
+TEST_F(Records, FailuresOfTheRecordShow) {
+  for (const Class& type : kClasses) {
+    host.Run(std::string("object = ") + type.make);
+    offline::SetAnswer(type.name + std::string(".toString"), std::string("as text"));
+    EXPECT_EQ(host.Run("return tostring(object)"), "\"as text\"") << type.name;
+    offline::SetAnswer(type.name + std::string(".toString"), false);
+    EXPECT_EQ(host.Run("return tostring(object)"), std::string("error: str(velora.") + type.name + ") error.");
+    if (type.name == std::string("ProductInfo")) continue;
+    for (const Field& field : type.fields) {
+      if (field.family != "String") continue;
+      offline::SetAnswer(type.name + std::string(".get_") + field.name, false);
+      EXPECT_EQ(host.Run(std::string("return object:get_") + field.name + "()"), "") << field.name;
+    }
+  }
+  host.Run("order = velora.OrderInfo.new(1)");
+  for (const char* producer : {"obj2Json", "produceCartInfo"}) {
+    const std::string call = std::string("return order:") + producer + "()";
+    offline::SetAnswer(std::string("OrderInfo.") + producer, std::string("made"));
+    EXPECT_EQ(host.Run(call), "\"made\"");
+    offline::SetAnswer(std::string("OrderInfo.") + producer, std::string());
+    EXPECT_EQ(host.Run(call), producer == std::string("obj2Json") ? "" : "\"\"");
+    offline::SetAnswer(std::string("OrderInfo.") + producer, false);
+    EXPECT_EQ(host.Run(call), "");
+  }
+}
+
+TEST_F(Records, ANewProductHasItsDefaults) {
+  EXPECT_EQ(host.Run("local p = velora.ProductInfo.new() return p:get_productId(), p:get_productName(), "
+                     "p:get_productPrice(), p:get_exchangeRatio(), p:get_sdkPids(), p:get_channelGoodsTypes(), "
+                     "p:get_jellRatios(), p:get_jellyExtra(), p:get_ffChannel()"),
+            "\"\", \"\", 0.0, 1, {}, {}, {}, \"\", \"\"");
+}
+
+TEST_F(Records, TheProductRegistryIsReachedThroughTheOrderClass) {
+  Check(
+      host,
+      {
+          {"product = velora.ProductInfo.new() product:set_productId('gold.60') product:set_productName('Gold') "
+           "product:set_productPrice(0.99) product:set_exchangeRatio(10) product:set_channelGoodsTypes{a = 1}",
+           "",
+           {}},
+          {"return velora.OrderInfo.getProductList()", "", {"getProductList()"}},
+          {"return velora.OrderInfo.regProduct(product)",
+           "",
+           {"regProduct(\"gold.60\", \"Gold\", 0.99000000953674, 10)"}},
+          {"product:set_sdkPids{k = 'v'} return velora.OrderInfo.regProduct(product, 1)",
+           "",
+           {"regProduct(\"gold.60\", \"Gold\", 0.99000000953674, 10, {\"k\": \"v\"})"}},
+          {"return velora.OrderInfo.regProduct(7)", "", {"regProduct(\"7\")"}},
+          {"return velora.OrderInfo.regProduct({}, 1)", "", {}},
+          {"return velora.OrderInfo.hasProduct('gold.60'), velora.OrderInfo.hasProduct('x')",
+           "true, false",
+           {"hasProduct(\"gold.60\")", "hasProduct(\"x\")"}},
+          {"return velora.OrderInfo.hasProduct(), velora.OrderInfo.hasProduct({}), "
+           "velora.OrderInfo.hasProduct(product)",
+           "false, false, false",
+           {}},
+          {"return velora.OrderInfo.new('gold.60'):hasProduct()",
+           "true",
+           {"New(\"gold.60\")", "hasProduct(OrderInfo(\"gold.60\"))"}},
+          {"list = velora.OrderInfo.getProductList() return list",
+           "{\"7\"=userdata, \"gold.60\"=userdata}",
+           {"getProductList()"}},
+          {"local p = list['gold.60'] p:set_productName('Silver') p:set_sdkPids{} return p:get_exchangeRatio(), "
+           "velora.OrderInfo.getProductList()['gold.60']:get_productName()",
+           "10, \"Gold\"",
+           {"getProductList()"}},
+          {"return velora.OrderInfo.getProductList()['gold.60']:get_sdkPids()", "{\"k\"=\"v\"}", {"getProductList()"}},
+          {"velora.OrderInfo.setProductType('gold.60', 2) return velora.OrderInfo.getProductType('gold.60')",
+           "2",
+           {"setProductType(\"gold.60\", 2)", "getProductType(\"gold.60\")"}},
+          {"velora.OrderInfo.setProductType('a', 1.0) velora.OrderInfo.setProductType('a', '1') "
+           "velora.OrderInfo.setProductType({}, 1) return velora.OrderInfo.getProductType({})",
+           "",
+           {}},
+          {"velora.OrderInfo.setProductType(5, 2^32|0 + 1)", "", {"setProductType(\"5\", 1)"}},
+          {"return #tostring(product) > 0", "true", {"toString(ProductInfo(\"gold.60\"))"}},
+      });
+}
+
+TEST_F(Records, TableSettersRaiseAndKeepTheOldValue) {
+  host.Run("product = velora.ProductInfo.new() share = velora.ShareInfo.new() order = velora.OrderInfo.new(1)");
+  const char* const errors[][3] = {
+      {"product", "sdkPids", "self->m_sdk_pids"},        {"product", "channelGoodsTypes", "self->m_channel_goodsTypes"},
+      {"product", "jellRatios", "self->m_jell_ratios"},  {"share", "aLinkParams", "self->m_dictALinkParams"},
+      {"share", "altTextMsg", "self->m_dictAltTextMsg"}, {"share", "iLinkParams", "self->m_dictILinkParams"},
+      {"share", "linkParams", "self->m_dictLinkParams"}, {"share", "linkTextMsg", "self->m_dictLinkTextMsg"},
+      {"share", "subTextMsg", "self->m_dictSubTextMsg"}, {"share", "textMsg", "self->m_dictTextMsg"},
+      {"share", "toUserList", "self->m_listToUserList"}, {"share", "shareData", "ptrHashMap"},
+  };
+  for (const auto& [object, field, text] : errors) {
+    const std::string self = object, name = field;
+    host.Run(self + ":set_" + name + "{[1] = 5}");
+    const std::string before = host.Run("return " + self + ":get_" + name + "()");
+    for (const char* bad : {"'x'", "nil", "", "1"})
+      EXPECT_EQ(host.Run(self + ":set_" + name + "(" + bad + ")"),
+                std::string("error: test:1: ") + text + "must be table");
+    EXPECT_EQ(host.Run("return " + self + ":get_" + name + "()"), before);
+    EXPECT_NE(before, "{}");
+  }
+  host.Run("order:set_arrPriceLocaleId{'a'}");
+  for (const char* bad : {"{'b', {}}", "{1, nil, 3}", "{true}"})
+    EXPECT_EQ(host.Run(std::string("order:set_arrPriceLocaleId(") + bad + ")"),
+              "error: test:1: localeId need string list");
+  EXPECT_EQ(
+      host.Run("order:set_arrPriceLocaleId('x') order:set_arrPriceLocaleId() return order:get_arrPriceLocaleId()"),
+      "{[1]=\"a\"}");
+}
+
+TEST_F(Records, CachedShareFieldsReachTheRecordByAFlush) {
+  offline::SetAnswer("zvCheckArgs", true);
+  host.Run(
+      "share = velora.ShareInfo.new() share:set_linkParams{k = 'v'} share:set_toUserList{'a', 'b'} "
+      "share:set_title('T') first = share:get_linkParams() first.k = 'changed'");
+  EXPECT_EQ(host.Run("return share:get_linkParams(), share:get_toUserList()"), "{\"k\"=\"v\"}, {[1]=\"a\", [2]=\"b\"}");
+  EXPECT_EQ(host.Run("local s = tostring(share) return s:find('linkParams') ~= nil, s:find('toUserList') ~= nil"),
+            "true, true");
+}
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,189 @@
+// Lets memory run out at every single allocation, Lua's and C++'s alike, and looks for what is lost or broken.
+#include <gtest/gtest.h>
+
+#include "download/handler.h"
+#include "platform/event.h"
+#include "tests/harness.h"
+
+namespace tests {
+namespace {
+
+namespace offline = tarn::velora::offline;
+using namespace tarn::velora;
+
+using Sweep = VeloraTest;
+
+// What is prepared with memory, what runs while it runs out, and the events that then wait for the frame.
+struct Scenario {
+  const char* name;
+  const char* prepare;
+  const char* run;
+  void (*post)();
+};
+
+void PostEveryLayout() {
+  auto pad = offline::MakePad({});
+  auto text = std::make_shared<CodeTextEvent>(0);
+  text->text = std::string(100, 't');
+  offline::Post(text);
+  auto pair = std::make_shared<TextPairEvent>(29);
+  pair->first = std::string(50, 'a');
+  offline::Post(pair);
+  auto texts = std::make_shared<TextListEvent>(47);
+  texts->texts = {"a", "b", std::string(60, 'c')};
+  offline::Post(texts);
+  auto stick = std::make_shared<PadStickEvent>(8);
+  stick->pad = pad;
+  offline::Post(stick);
+  auto pressure = std::make_shared<PadPressureEvent>(7);
+  pressure->pad = pad;
+  offline::Post(pressure);
+  auto key = std::make_shared<PadKeyEvent>(5);
+  key->pad = pad;
+  offline::Post(key);
+  auto order = std::make_shared<OrderEvent>(17);
+  order->order = offline::MakeOrder({});
+  offline::Post(order);
+  auto account = std::make_shared<AccountEvent>(43);
+  account->account = offline::MakeAccount({});
+  offline::Post(account);
+  auto accounts = std::make_shared<AccountListEvent>(41);
+  accounts->accounts = {account->account, nullptr, offline::MakeAccount({})};
+  offline::Post(accounts);
+  auto skus = std::make_shared<SkuListEvent>(26);
+  skus->skus = {offline::MakeSku({}), offline::MakeSku({})};
+  offline::Post(skus);
+  static constexpr unsigned char kBytes[] = "bytes";
+  static constexpr ByteBlock kBlock{kBytes, sizeof kBytes};
+  auto bytes = std::make_shared<TextBytesEvent>(59);
+  bytes->bytes = &kBlock;
+  offline::Post(bytes);
+}
+
+const char* const kCallEverySetterAndGetter = R"(
+  for name, class in pairs(velora) do
+    if type(class) == 'table' and objects[name] then
+      local object = objects[name]
+      for key, f in pairs(class) do
+        if key:find('^set_') then
+          if not pcall(f, object, {a = 1, [2] = 'x'}) then pcall(f, object, 'text') end
+          pcall(f, object, 1.5) pcall(f, object, {'a', 5.5})
+        elseif key:find('^get_') or key == 'obj2Json' or key == 'produceCartInfo' then
+          f(object)
+        end
+      end
+      tostring(object)
+    end
+  end)";
+
+const char* const kMakeObjects = R"(
+  objects = {ProductInfo = velora.ProductInfo.new(), OrderInfo = velora.OrderInfo.new('a'),
+    QueryRankInfo = velora.QueryRankInfo.new(), ShareInfo = velora.ShareInfo.new('s'),
+    AccountInfo = velora.AccountInfo.new('me'), SkuDetailsInfo = velora.SkuDetailsInfo.new(1, 2, 3, 4, 5, 6, 7)}
+  objects.ProductInfo:set_productId('p') objects.ProductInfo:set_sdkPids{a = 'b'}
+  objects.ShareInfo:set_textMsg{a = 'b'} objects.ShareInfo:set_toUserList{'a'} objects.ShareInfo:set_shareData{a = 'b'}
+  velora.OrderInfo.regProduct(objects.ProductInfo)
+  for _, o in pairs(objects) do tostring(o) end)";
+
+const Scenario kScenarios[] = {
+    {"wrappers", kMakeObjects, R"(
+        local good = {objects.OrderInfo, objects.ShareInfo, objects.QueryRankInfo, {'a', 2.5}, {a = 1}, 'text', 1.5, 7}
+        for name, f in pairs(velora) do
+          if type(f) == 'function' and not name:find('^[sg]etOn') then
+            pcall(f)
+            for _, a in ipairs(good) do pcall(f, a) pcall(f, 1.5, a) end
+            pcall(f, 'a', 'b', true) pcall(f, 'a', 1, 2, 'b', 'c') pcall(f, 1.5, {2.5, 'b'}) pcall(f, 'a', 1)
+          end
+        end)",
+     nullptr},
+    {"callbacks", "", R"(
+        for name, f in pairs(velora) do if name:find('^setOn') then f(print) end end
+        for name, f in pairs(velora) do if name:find('^getOn') then f() end end)",
+     nullptr},
+    {"events", "for name, f in pairs(velora) do if name:find('^setOn') then f(function(...) last = {...} end) end end",
+     "", PostEveryLayout},
+    {"failing callbacks",
+     "for name, f in pairs(velora) do if name:find('^setOn') then f(function() error(1.5 .. 'x') end) end end", "",
+     PostEveryLayout},
+    {"constructors and registry", "", R"(
+        local p = velora.ProductInfo.new() p:set_sdkPids{a = 'b'} p:set_productId(1.5) velora.OrderInfo.regProduct(p)
+        velora.OrderInfo.regProduct(2.5) velora.OrderInfo.hasProduct(1.5) velora.OrderInfo.setProductType(1.5, 2)
+        velora.OrderInfo.getProductType(1.5) velora.OrderInfo.getProductList()
+        velora.SkuDetailsInfo.new(1.5, 2, 3, 4, 5, 6, 7) velora.OrderInfo.new(1.5) velora.QueryRankInfo.new()
+        velora.QueryRankInfo.new(1.5) velora.AccountInfo.new() velora.AccountInfo.new(1.5) velora.ShareInfo.new()
+        local share = velora.ShareInfo.new(1.5) velora.zvCheckArgs(share) velora.zvShare(share) velora.zvGetCheckedOrders())",
+     nullptr},
+    {"accessors", kMakeObjects, kCallEverySetterAndGetter, nullptr},
+    {"download", "handler = {onInited = print, onProgress = function() end, onFinish = function() end}", R"(
+        velora.download.setSyncDownloadHandler(handler) velora.download.getSyncDownloadHandler()
+        pcall(velora.download.setSyncDownloadHandler, {}) velora.download.query() velora.download.extendFunc(1.5)
+        velora.download.getDownloadSDKVersion() velora.download.getOrbitSessionId() velora.download.init()
+        velora.download.disableDownloadFinish2() velora.download.setSyncDownloadHandler(handler))",
+     nullptr},
+};
+
+// One run with `allowed` allocations; true when they were enough.
+bool RunOnce(const Scenario& scenario, long allowed) {
+  Host host;
+  EXPECT_EQ(host.Run(scenario.prepare), "");
+  if (scenario.post != nullptr) scenario.post();
+  lua_State* L = host.L;
+  EXPECT_EQ(luaL_loadstring(L, scenario.run), LUA_OK);
+  lua_pushcfunction(L, [](lua_State* state) {
+    UpdateLuaVelora(state);
+    DeinitLuaVelora(state);
+    return 0;
+  });
+  memory::FailAfter(allowed);
+  const int firstTop = lua_gettop(L);
+  lua_pushvalue(L, -2);
+  lua_pcall(L, 0, 0, 0);
+  lua_settop(L, firstTop);
+  lua_pcall(L, 0, 0, 0);
+  luavelora::downloadHandler.onInited();
+  luavelora::downloadHandler.onProgress("50");
+  luavelora::downloadHandler.onFinish("done", "bytes", 5);
+  const bool enough = !memory::Restore();
+  lua_settop(L, 0);
+  EXPECT_EQ(host.Run("for _ = 1, 2 do collectgarbage() end return type(velora.isInit()), "
+                     "velora.OrderInfo.new('after'):get_productId()"),
+            "\"boolean\", \"after\"");
+  EXPECT_EQ(host.Frame(), "");
+  return enough;
+}
+
+TEST_F(Sweep, NothingIsLostWhereverMemoryRunsOut) {
+  for (const Scenario& scenario : kScenarios) {
+    long allowed = 0;
+    while (!RunOnce(scenario, allowed)) {
+      ASSERT_EQ(memory::LuaBlocksInUse(), 0) << scenario.name << " after " << allowed;
+      offline::Reset();
+      ASSERT_EQ(offline::LiveRecords(), 0u) << scenario.name << " after " << allowed;
+      ++allowed;
+    }
+    EXPECT_GT(allowed, 3) << scenario.name;
+    RecordProperty(scenario.name, static_cast<int>(allowed));
+  }
+}
+
+TEST_F(Sweep, AFailedInitLosesNothingAndCanBeCalledAgain) {
+  for (long allowed = 0;; ++allowed) {
+    Host host(false);
+    lua_pushcfunction(host.L, [](lua_State* L) {
+      InitLuaVelora(L);
+      return 0;
+    });
+    memory::FailAfter(allowed);
+    lua_pcall(host.L, 0, 0, 0);
+    const bool enough = !memory::Restore();
+    lua_settop(host.L, 0);
+    InitLuaVelora(host.L);
+    ASSERT_EQ(host.Run("local n = 0 for _ in pairs(velora) do n = n + 1 end "
+                       "return n, velora.OrderInfo.new('a'):get_productId()"),
+              "984, \"a\"");
+    if (enough) break;
+  }
+}
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,291 @@
+// The wrappers: which SDK call each makes for good arguments, and that bad ones make none.
+#include <gtest/gtest.h>
+
+#include "tests/harness.h"
+
+namespace tests {
+namespace {
+
+namespace offline = tarn::velora::offline;
+
+class Wrappers : public VeloraTest {
+ protected:
+  void TearDown() override {
+    host.Close();
+    VeloraTest::TearDown();
+  }
+
+  // Checks `velora.<name>(<arguments>)`; `call` is the expected line's argument list, null for no call.
+  void Expect(const std::string& name, const std::string& arguments, const char* call,
+              const std::string& results = "") {
+    offline::TakeCalls();
+    const std::string chunk = "return velora." + name + "(" + arguments + ")";
+    EXPECT_EQ(host.Run(chunk), results) << chunk;
+    const auto calls = call == nullptr ? std::vector<std::string>{} : std::vector{name + "(" + call + ")"};
+    EXPECT_EQ(offline::TakeCalls(), calls) << chunk;
+  }
+
+  Host host;
+};
+
+// Values that are neither text nor number.
+const char* const kNoTexts[] = {"", "nil", "true", "{}", "print", "velora.PadEvent", "coroutine.create(print)"};
+
+TEST_F(Wrappers, TriggersReadNoArgument) {
+  for (const char* name : {"zvInit",
+                           "zvLogin",
+                           "zvLogout",
+                           "zvSwitchAccount",
+                           "zvOpenManager",
+                           "zvGameLoginSuccess",
+                           "zvUpLoadUserInfo",
+                           "zvDoSdkRealNameRegister",
+                           "zvGuestBind",
+                           "exitApp",
+                           "zvOpenExitView",
+                           "zvOpenPauseView",
+                           "zvVerifyOrder",
+                           "zvPrePay",
+                           "zvQueryInventory",
+                           "zvQueryFriendList",
+                           "zvQueryAvailablesInvitees",
+                           "zvQueryMyAccount",
+                           "zvQueryFriendListInGame",
+                           "zvQueryInviterList",
+                           "zvIsDarenUpdated",
+                           "zvMoreGame",
+                           "zvDisplayAchievement",
+                           "zvOpenNearby",
+                           "zvGetUsePushNotification",
+                           "zvConnectToChannel",
+                           "zvDisConnectFromChannel",
+                           "zvShowConversation",
+                           "zvShowFAQs",
+                           "zvCCStartService",
+                           "zvCCStopService",
+                           "zvFlushCustomEvents",
+                           "zvGetAnnouncementInfo",
+                           "zvCloseWebView",
+                           "zvCloseFlash",
+                           "zvOpenVespera"}) {
+    Expect(name, "", "");
+    Expect(name, "1, {}, nil", "");
+  }
+}
+
+TEST_F(Wrappers, QueriesGiveWhatTheSdkAnswers) {
+  for (const char* name :
+       {"isInit", "hasLogin", "zvHasNotification", "zvHasChannelConnected", "isCCRecording", "isCCRecordMic"}) {
+    offline::SetAnswer(name, true);
+    Expect(name, "", "", "true");
+    offline::SetAnswer(name, false);
+    Expect(name, "{}", "", "false");
+  }
+  for (const char* name : {"getCCPerformance", "getCCWindowState"}) {
+    offline::SetAnswer(name, std::int64_t{-7});
+    Expect(name, "", "", "-7");
+  }
+  for (const char* name :
+       {"getChannel", "getAppChannel", "getPlatform", "getAuthTypeName", "getUdid", "getChannelByImsi",
+        "getChannelByImsiEx", "getCCTypeByImsi", "getLastShareMessage", "zvGetChannelID"}) {
+    offline::SetAnswer(name, std::string("text"));
+    Expect(name, "", "", "\"text\"");
+    offline::SetAnswer(name, std::string());
+    Expect(name, "", "", "\"\"");
+    offline::SetAnswer(name, std::string("cut\0here", 8));
+    Expect(name, "", "", "\"cut\"");
+    offline::SetAnswer(name, std::string(100000, 'x'));
+    Expect(name, "", "", '"' + std::string(100000, 'x') + '"');
+    offline::SetAnswer(name, false);
+    Expect(name, "", "");
+  }
+}
+
+TEST_F(Wrappers, OneTextIsReadByConversionAlone) {
+  for (const char* name :
+       {"zvAntiAddiction", "zvExtendFunc", "zvvGenericFunctionCall", "zvCallbackSuccess", "zvCallbackFail", "zvJFLog",
+        "zvRemoveCheckedOrders", "zvApplyFriend", "zvDisplayLeaderboard", "zvShowWeb", "zvOpenWebView",
+        "zvCollectEvent", "zvSendLocalNotification", "zvSetZone", "zvSetUserIdentifier", "zvScannerQRCode"}) {
+    Expect(name, "'text'", "\"text\"");
+    Expect(name, "12, 'more'", "\"12\"");
+    Expect(name, "'cut\\0here'", "\"cut\"");
+    for (const char* bad : kNoTexts) Expect(name, bad, nullptr);
+  }
+  for (const char* name : {"getUserInfo", "getSDKVersion", "getFFChannelByPid"}) {
+    offline::SetAnswer(name, std::string("value"));
+    Expect(name, "1.5", "\"1.5\"", "\"value\"");
+    offline::SetAnswer(name, false);
+    Expect(name, "'key'", "\"key\"");
+    for (const char* bad : kNoTexts) Expect(name, bad, nullptr);
+  }
+  for (const char* name : {"isBinded", "zvHasPlatform", "hasFeature"}) {
+    offline::SetAnswer(name, true);
+    Expect(name, "'key'", "\"key\"", "true");
+    for (const char* bad : kNoTexts) Expect(name, bad, nullptr, name == std::string("hasFeature") ? "false" : "");
+  }
+  offline::SetAnswer("DRPF", std::int64_t{-1});
+  Expect("DRPF", "42", "\"42\"", "-1");
+  for (const char* bad : kNoTexts) Expect("DRPF", bad, nullptr);
+}
+
+TEST_F(Wrappers, SeveralArgumentsAreEachTested) {
+  for (const char* name : {"setUserInfo", "setPropStr", "zvUpdateApi", "zvInviteFriendList", "zvTrackCustomEvent"}) {
+    Expect(name, "'a', 'b'", "\"a\", \"b\"");
+    Expect(name, "1, 2.0, 3", "\"1\", \"2.0\"");
+    for (const char* bad : {"", "'a'", "'a', nil", "nil, 'b'", "'a', {}", "true, 'b'"}) Expect(name, bad, nullptr);
+  }
+  for (const char* name : {"setPropInt", "zvUpdateAchievement", "zvUpdateEvent", "zvPresentQRCodeScanner"}) {
+    Expect(name, "'a', -5", "\"a\", -5");
+    Expect(name, "'a', 4294967297", "\"a\", 1");
+    Expect(name, "'a', math.mininteger", "\"a\", 0");
+    for (const char* bad : {"", "'a'", "'a', 3.0", "'a', '3'", "{}, 3", "'a', nil"}) Expect(name, bad, nullptr);
+  }
+  offline::SetAnswer("getPropInt", std::int64_t{7});
+  Expect("getPropInt", "'a', 5", "\"a\", 5", "7");
+  Expect("getPropInt", "'a', 5.0", nullptr);
+  Expect("getPropInt", "'a'", nullptr);
+  for (const char* name : {"zvCancelLocalNotification", "zvSelectChannelOption", "zvVerifyMobile"}) {
+    Expect(name, "-2147483649", "2147483647");
+    for (const char* bad : {"", "1.0", "'1'", "nil"}) Expect(name, bad, nullptr);
+  }
+  for (const char* name : {"zvSetUsePushNotification", "zvGetNotice", "zvShowCompactView"}) {
+    Expect(name, "true", "true");
+    Expect(name, "false, 1", "false");
+    for (const char* bad : {"", "1", "nil", "'true'"}) Expect(name, bad, nullptr);
+  }
+  Expect("setJFSauthWithKey", "'k', 1, false", "\"k\", \"1\", false");
+  for (const char* bad : {"'k', 'v'", "'k', 'v', 1", "'k', nil, true"}) Expect("setJFSauthWithKey", bad, nullptr);
+  Expect("zvSendProfile", "'p', true", "\"p\", true");
+  Expect("zvSendProfile", "'p', 1", nullptr);
+  Expect("zvShowBoard", "1, 2, '3'", "\"1\", \"2\", \"3\"");
+  Expect("zvShowBoard", "1, 2", nullptr);
+  Expect("zvUpdateRank", "'r', '99.5'", "\"r\", 99.5");
+  Expect("zvUpdateRank", "'r', 0.1", "\"r\", 0.1");
+  for (const char* bad : {"'r'", "'r', {}", "'r', 'fast'", "nil, 1"}) Expect("zvUpdateRank", bad, nullptr);
+}
+
+TEST_F(Wrappers, PropertiesHaveAFormWithASecondString) {
+  offline::SetAnswer("getPropStr", std::string("value"));
+  Expect("getPropStr", "'name'", "\"name\"", "\"value\"");
+  Expect("getPropStr", "'name', true", "\"name\"", "\"value\"");
+  Expect("getPropStr", "'name', 5", "\"name\", \"5\"", "\"value\"");
+  for (const char* bad : kNoTexts) Expect("getPropStr", bad, nullptr);
+  Expect("setPropStr", "'x', 'y'", "\"x\", \"y\"");
+}
+
+TEST_F(Wrappers, OptionsPassThePointerThatTheirTypeAsksFor) {
+  Expect("zvLumoSetOption", "'int.fps', 7", "\"int.fps\", 7");
+  Expect("zvLumoSetOption", "'int.fps', 4294967296 + 9", "\"int.fps\", 9");
+  Expect("zvLumoSetOption", "'text', 7.0", "\"text\", \"7.0\"");
+  Expect("zvLumoSetOption", "'text', 'cut\\0here'", "\"text\", \"cut\"");
+  Expect("zvLumoSetOption", "'bool.on', false", "\"bool.on\", false");
+  Expect("zvLumoSetOption", "'bool.on', true", "\"bool.on\", true");
+  for (const char* bad : {"", "'text'", "{}, 1", "nil, 'x'"}) Expect("zvLumoSetOption", bad, nullptr);
+  for (const char* bad : {"'text', nil", "'text', {}", "'text', print"})
+    Expect("zvLumoSetOption", bad, nullptr, "error: test:1: zvLumoSetOption: unsupport value type.");
+}
+
+TEST_F(Wrappers, CommandLineIsSetAndCleared) {
+  for (const char* bad : {"{}", "true", "'a', 'b'", "'a', nil", "print"})
+    Expect("setCmdLineParameter", bad, nullptr, "error: test:1: setCmdLineParameter must be str");
+  Expect("setCmdLineParameter", "'-windowed'", "\"-windowed\"");
+  Expect("getCmdLineParameter", "", "", "\"-windowed\"");
+  for (const char* clear : {"", "nil", "nil, 'b'", "''", "'\\0x'"}) {
+    Expect("setCmdLineParameter", clear, "null");
+    Expect("getCmdLineParameter", "", "");
+  }
+}
+
+TEST_F(Wrappers, ListsAreReadAndTheirErrorsCarryThePosition) {
+  for (const char* name : {"zvShowRewardView", "zvDeleteInviters"}) {
+    Expect(name, "{'a', 2, 3.0}", "{\"a\", \"2\", \"3.0\"}");
+    Expect(name, "{}", "{}");
+    Expect(name, "{'a', {}, true, 'b'}", "{\"a\", \"b\"}");
+    for (const char* bad : {"", "nil", "'a'", "1"}) Expect(name, bad, nullptr, "error: test:1: ptrmust be table");
+  }
+  Expect("zvDisplayQuests", "{1, 2}", "{1, 2}, 2");
+  Expect("zvDisplayQuests", "{4294967297, 2.0, '3', 'x', 1.5}", "{1, 2, 3, 0, 0}, 5");
+  Expect("zvDisplayQuests", "{}", "null, 0");
+  Expect("zvDisplayQuests", "", nullptr, "error: test:1: ptrmust be table");
+  Expect("zvSendPushNotification", "'t', {'a', 5}", "\"t\", {\"a\", \"5\"}");
+  Expect("zvSendPushNotification", "'t', {}", "\"t\", {}");
+  for (const char* bad : {"'t'", "'t', 'a'", "{}, {}"}) Expect("zvSendPushNotification", bad, nullptr);
+  Expect("zvQuerySkuDetails", "'t', {'a', 5}", "\"t\", {\"a\", \"5\"}");
+  Expect("zvQuerySkuDetails", "'t', {}", "\"t\", {}");
+  for (const char* bad : {"'t'", "'t', 'a'", "nil, {}"}) Expect("zvQuerySkuDetails", bad, nullptr);
+  for (const char* bad : {"'t', {'a', {}}", "'t', {true}", "'t', {1, nil, 3}"})
+    Expect("zvQuerySkuDetails", bad, nullptr, "error: test:1: SkuDetails need string list");
+}
+
+TEST_F(Wrappers, ALengthThatATableClaimsIsHonouredAndBounded) {
+  host.Run("function claim(n) return setmetatable({'a', 'b', 'c'}, {__len = function() return n end}) end");
+  Expect("zvDeleteInviters", "claim(2)", "{\"a\", \"b\"}");
+  Expect("zvDeleteInviters", "claim(2^32 | 0 + 1)", "{\"a\"}");
+  Expect("zvDeleteInviters", "claim(-1)", "{}");
+  Expect("zvDeleteInviters", "claim('x')", "{}");
+  Expect("zvDeleteInviters", "claim(1 << 20)", "{\"a\", \"b\", \"c\"}");
+  for (const char* name : {"zvDeleteInviters", "zvShowRewardView", "zvDisplayQuests"})
+    Expect(name, "claim((1 << 20) + 1)", nullptr, "error: test:1: list is longer than 1048576 elements");
+  Expect("zvSendPushNotification", "'t', claim(1 << 30)", nullptr,
+         "error: test:1: list is longer than 1048576 elements");
+  Expect("zvQuerySkuDetails", "'t', claim(1)", "\"t\", {\"a\", \"b\", \"c\"}");
+}
+
+TEST_F(Wrappers, RecordsReachTheSdkThemselves) {
+  host.Run(
+      "order = velora.OrderInfo.new('gold'); rank = velora.QueryRankInfo.new(); share = velora.ShareInfo.new('s')");
+  for (const char* name : {"zvCheckOrder", "zvConsume"}) {
+    Expect(name, "order, 1", "OrderInfo(\"gold\")");
+    for (const char* bad : {"", "nil", "{}", "share", "io.stdout", "'gold'"}) Expect(name, bad, nullptr);
+  }
+  Expect("zvQueryRank", "rank", "QueryRankInfo()");
+  Expect("zvQueryRank", "order", nullptr);
+  Expect("zvShare", "share", "ShareInfo(\"s\")");
+  Expect("zvShare", "rank", nullptr);
+  for (const bool answer : {true, false}) {
+    offline::SetAnswer("zvCheckArgs", answer);
+    Expect("zvCheckArgs", "share", "ShareInfo(\"s\")", answer ? "true" : "false");
+  }
+  Expect("zvCheckArgs", "rank", nullptr);
+}
+
+TEST_F(Wrappers, CheckedOrdersAreNewObjectsForTheSameRecords) {
+  Expect("zvGetCheckedOrders", "", "");
+  {
+    auto order = offline::MakeOrder({{"orderId", std::string("A1")}});
+    offline::SetCheckedOrders({order, nullptr, order});
+  }
+  EXPECT_EQ(host.Run("orders = velora.zvGetCheckedOrders(); return orders"), "{[1]=userdata, [3]=userdata}");
+  offline::SetCheckedOrders({});
+  EXPECT_EQ(host.Run("orders[1]:set_count(9); return orders[3]:get_count(), orders[1] ~= orders[3]"), "9, true");
+  EXPECT_EQ(host.Run("orders[1] = nil; collectgarbage(); return orders[3]:get_orderId()"), "\"A1\"");
+}
+
+TEST_F(Wrappers, ServicesWithOptionalArguments) {
+  Expect("zvSetFloatBtnVisible", "0", "true");
+  Expect("zvSetFloatBtnVisible", "''", "true");
+  for (const char* no : {"", "nil", "false"}) Expect("zvSetFloatBtnVisible", no, "false");
+
+  Expect("zvCreateQRCode", "'t', 300, 2^32|0 + 1, 'p'", "\"t\", 300, 1, \"p\"");
+  Expect("zvCreateQRCode", "'t', 300, 1, 'p', false", "\"t\", 300, 1, \"p\"");
+  Expect("zvCreateQRCode", "'t', 300, 1, 'p', 5", "\"t\", 300, 1, \"p\", \"5\"");
+  for (const char* bad : {"'t', 300.0, 1, 'p'", "'t', 1, '2', 'p'", "'t', 1, 2", "{}, 1, 2, 'p'", "'t', 1, 2, {}"})
+    Expect("zvCreateQRCode", bad, nullptr);
+
+  const char* const voice[][2] = {
+      {"('x'):rep(960)", "<960 bytes>, 960, 48000, 16, 2"},
+      {"'a\\0b\\0', 0", "<4 bytes>, 4, 48000, 16, 2"},
+      {"'abcd', 2, 8000, 8, 1", "<2 bytes>, 2, 8000, 8, 1"},
+      {"'abcd', 2.0, '8000', {}, 1.0", "<4 bytes>, 4, 48000, 16, 2"},
+      {"'abcd', 5", "<4 bytes>, 4, 48000, 16, 2"},
+      {"'abcd', -1", "<4 bytes>, 4, 48000, 16, 2"},
+      {"'abcd', math.maxinteger, -1, 2^32|0, 1", "<4 bytes>, 4, 4294967295, 0, 1"},
+      {"''", "<0 bytes>, 0, 48000, 16, 2"},
+      {"12", "<2 bytes>, 2, 48000, 16, 2"},
+  };
+  for (const auto& [arguments, call] : voice) Expect("zvPushGameVoice", arguments, call);
+  for (const char* bad : kNoTexts) Expect("zvPushGameVoice", bad, nullptr);
+}
+
+}  // namespace
+}  // namespace tests
