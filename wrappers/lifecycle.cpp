@@ -1,6 +1,8 @@
 // The lifecycle wrappers whose rules do not follow from their operation's type.
 #include "wrappers/lifecycle.h"
 
+#include <cstring>
+
 namespace luavelora {
 
 // The one query that answers a bad argument with a value.
@@ -20,22 +22,28 @@ Outcome GetPropStr(lua_State* L) {
   });
 }
 
-// The SDK takes an untyped pointer: to an int, to text, or to a one-byte bool, as the Lua type says.
+// The SDK takes an untyped pointer, to an int, to text or to a one-byte bool as the Lua type says, and reads it in the
+// form that the option's name asks for. Zeros behind a short value keep a reading in the wrong form inside the buffer.
 Outcome LumoSetOption(lua_State* L) {
   if (lua_gettop(L) < 2 || !lua_isstring(L, 1)) return Refusal();
   const char* name = TextArgument(L, 1);
+  alignas(std::int64_t) char padded[2 * sizeof(std::int64_t)] = {};
+  const void* value = padded;
   if (lua_isinteger(L, 2)) {
-    const std::int32_t value = Low32(lua_tointeger(L, 2));
-    tarn::velora::zvLumoSetOption(name, &value);
+    const std::int32_t number = Low32(lua_tointeger(L, 2));
+    std::memcpy(padded, &number, sizeof number);
   } else if (const char* text = TextArgument(L, 2)) {
-    tarn::velora::zvLumoSetOption(name, text);
+    const std::size_t size = std::strlen(text);
+    if (size < sizeof(std::int64_t))
+      std::memcpy(padded, text, size);
+    else
+      value = text;
   } else if (lua_isboolean(L, 2)) {
-    const bool value = lua_toboolean(L, 2) != 0;
-    static_assert(sizeof value == 1);
-    tarn::velora::zvLumoSetOption(name, &value);
+    padded[0] = lua_toboolean(L, 2) != 0;
   } else {
     return Outcome::Error("zvLumoSetOption: unsupport value type.");
   }
+  tarn::velora::zvLumoSetOption(name, value);
   return Outcome::Results(0);
 }
 
