@@ -1,11 +1,17 @@
 // The test host, its rendering of Lua values, and its memory that can run out.
 #include "tests/harness.h"
 
+#include <malloc.h>
+
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <cstdlib>
 #include <new>
 #include <thread>
+#if defined(_WIN32)
+#define malloc_usable_size _msize
+#endif
 
 namespace tests {
 namespace memory {
@@ -14,6 +20,7 @@ namespace {
 thread_local long allowedAllocations = -1;  // negative: no limit
 thread_local bool failed = false;
 long luaBlocks = 0;
+std::atomic<long> bytes = 0;  // other threads allocate too
 
 bool Allow() {
   if (allowedAllocations < 0) return true;
@@ -38,22 +45,29 @@ bool Restore() {
 }
 
 void* LuaAllocator(void*, void* block, std::size_t oldSize, std::size_t newSize) {
-  if (newSize == 0) {
-    if (block != nullptr) --luaBlocks;
-    std::free(block);
-    return nullptr;
-  }
-  if ((block == nullptr || newSize > oldSize) && !Allow()) return nullptr;
-  if (block == nullptr) ++luaBlocks;
-  return std::realloc(block, newSize);
+  if (block == nullptr) oldSize = 0;  // Lua names the kind of object there
+  if (newSize > oldSize && !Allow()) return nullptr;
+  bytes += static_cast<long>(newSize) - static_cast<long>(oldSize);
+  luaBlocks += (newSize != 0) - (block != nullptr);
+  if (newSize != 0) return std::realloc(block, newSize);
+  std::free(block);
+  return nullptr;
 }
 
 long LuaBlocksInUse() { return luaBlocks; }
 
+long BytesInUse() { return bytes; }
+
 static void* Allocate(std::size_t size) {
   void* block = Allow() ? std::malloc(size == 0 ? 1 : size) : nullptr;
   if (block == nullptr) throw std::bad_alloc();
+  bytes += static_cast<long>(malloc_usable_size(block));
   return block;
+}
+
+static void Free(void* block) {
+  if (block != nullptr) bytes -= static_cast<long>(malloc_usable_size(block));
+  std::free(block);
 }
 
 }  // namespace memory
@@ -171,7 +185,7 @@ void VeloraTest::TearDown() {
 // The program's own allocation functions, so that they can be made to fail.
 void* operator new(std::size_t size) { return tests::memory::Allocate(size); }
 void* operator new[](std::size_t size) { return tests::memory::Allocate(size); }
-void operator delete(void* block) noexcept { std::free(block); }
-void operator delete[](void* block) noexcept { std::free(block); }
-void operator delete(void* block, std::size_t) noexcept { std::free(block); }
-void operator delete[](void* block, std::size_t) noexcept { std::free(block); }
+void operator delete(void* block) noexcept { tests::memory::Free(block); }
+void operator delete[](void* block) noexcept { tests::memory::Free(block); }
+void operator delete(void* block, std::size_t) noexcept { tests::memory::Free(block); }
+void operator delete[](void* block, std::size_t) noexcept { tests::memory::Free(block); }

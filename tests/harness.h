@@ -25,6 +25,9 @@ bool Restore();
 void* LuaAllocator(void*, void* block, std::size_t oldSize, std::size_t newSize);
 long LuaBlocksInUse();
 
+// The bytes that Lua's allocator and operator new have given and not got back, on all threads.
+long BytesInUse();
+
 }  // namespace memory
 
 class Host {

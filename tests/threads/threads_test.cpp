@@ -1,0 +1,84 @@
+// Many threads post events while frames run: each is delivered exactly once and in its thread's order, and records
+// live as long as their last owner. Run it under the thread sanitizer (make test does).
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+
+#include "platform/order_info.h"
+#include "tests/harness.h"
+
+namespace tests {
+namespace {
+
+namespace offline = tarn::velora::offline;
+using namespace tarn::velora;
+
+using Threads = VeloraTest;
+
+TEST_F(Threads, EveryEventArrivesOnceAndInItsThreadsOrder) {
+  // Each thread posts codes under a type of its own, and an order after every hundredth.
+  constexpr int kTypes[] = {14, 15, 16, 19};
+  constexpr int kEventsPerThread = 250000;
+  constexpr int kOrderEvery = 100;
+  Host host;
+  ASSERT_EQ(host.Run(R"(
+    next, orders, kept = {}, 0, {}
+    local function follow(name)
+      next[name] = 0
+      velora['setOn' .. name](function(code) assert(code == next[name], name) next[name] = code + 1 end)
+    end
+    for _, name in ipairs{'FinishInit', 'LoginDone', 'LogoutDone', 'ProtocolFinish'} do follow(name) end
+    velora.setOnOrderCheckDone(function(order)
+      orders = orders + 1
+      kept[orders % 50] = order
+      order:set_count(order:get_count() + 1)
+    end))"),
+            "");
+  std::atomic<int> running{static_cast<int>(std::size(kTypes))};
+  std::vector<std::thread> threads;
+  for (int type : kTypes) {
+    threads.emplace_back([type, &running] {
+      for (int i = 0; i < kEventsPerThread; ++i) {
+        auto code = std::make_shared<CodeEvent>(type);
+        code->code = i;
+        offline::Post(code);
+        if (i % kOrderEvery != 0) continue;
+        auto order = std::make_shared<OrderEvent>(17);
+        order->order = offline::MakeOrder({});
+        offline::Post(order);
+        std::string text;
+        order->order->get_orderId(text);
+      }
+      --running;
+    });
+  }
+  int frames = 0;
+  for (; running != 0; ++frames) EXPECT_EQ(host.Frame(), "");
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_EQ(host.Frame(), "");
+  EXPECT_GT(frames, 10);
+  const std::string all = std::to_string(kEventsPerThread);
+  EXPECT_EQ(host.Run("return next.FinishInit, next.LoginDone, next.LogoutDone, next.ProtocolFinish, orders"),
+            all + ", " + all + ", " + all + ", " + all + ", " +
+                std::to_string(std::size(kTypes) * kEventsPerThread / kOrderEvery));
+  EXPECT_TRUE(offline::TakeLog().empty());
+  host.Run("kept = nil collectgarbage()");
+  EXPECT_EQ(offline::LiveRecords(), 0u);
+}
+
+// The runtime's own thread answers while scripts run and while it is stopped and started.
+TEST_F(Threads, AnswersAndStopsMayMeet) {
+  Host host;
+  host.Run("answers = 0 velora.setOnLoginDone(function() answers = answers + 1 end)");
+  for (int i = 0; i < 50; ++i) {
+    host.Run("velora.zvLogin() velora.zvQueryFriendList() velora.zvCheckOrder(velora.OrderInfo.new(1))");
+    if (i % 10 == 9) offline::Stop();
+    EXPECT_EQ(host.Frame(), "");
+  }
+  host.Run("velora.zvLogin()");
+  host.FramesUntil("answers > 0");
+}
+
+}  // namespace
+}  // namespace tests
