@@ -58,10 +58,15 @@ long LuaBlocksInUse() { return luaBlocks; }
 
 long BytesInUse() { return bytes; }
 
-static void* Allocate(std::size_t size) {
+static void* TryAllocate(std::size_t size) noexcept {
   void* block = Allow() ? std::malloc(size == 0 ? 1 : size) : nullptr;
+  if (block != nullptr) bytes += static_cast<long>(malloc_usable_size(block));
+  return block;
+}
+
+static void* Allocate(std::size_t size) {
+  void* block = TryAllocate(size);
   if (block == nullptr) throw std::bad_alloc();
-  bytes += static_cast<long>(malloc_usable_size(block));
   return block;
 }
 
@@ -185,6 +190,8 @@ void VeloraTest::TearDown() {
 // The program's own allocation functions, so that they can be made to fail.
 void* operator new(std::size_t size) { return tests::memory::Allocate(size); }
 void* operator new[](std::size_t size) { return tests::memory::Allocate(size); }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return tests::memory::TryAllocate(size); }
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept { return tests::memory::TryAllocate(size); }
 void operator delete(void* block) noexcept { tests::memory::Free(block); }
 void operator delete[](void* block) noexcept { tests::memory::Free(block); }
 void operator delete(void* block, std::size_t) noexcept { tests::memory::Free(block); }

@@ -1,0 +1,28 @@
+-- Writes the fuzzer's first inputs into the folder that is given: programs that call every function with every set of
+-- good arguments, and programs that post every event. Run it with lua5.3 when functions were added.
+local folder = assert(arg[1], "usage: lua5.3 make_corpus.lua FOLDER")
+local FRAME, CALL, LISTEN, COLLECT, POST = 0, 6, 9, 11, 12
+local FUNCTIONS, PATTERNS, EVENTS, DEEDS = 512, 20, 64, 11
+
+local function write(name, bytes)
+  local file = assert(io.open(folder .. "/" .. name, "wb"))
+  file:write(string.char(table.unpack(bytes)))
+  file:close()
+end
+
+for pattern = 0, PATTERNS - 1 do
+  local bytes = {}
+  for f = 0, FUNCTIONS - 1 do
+    for _, byte in ipairs{CALL, f % 256, f // 256, pattern} do bytes[#bytes + 1] = byte end
+  end
+  write("calls-" .. pattern, bytes)
+end
+
+for deed = 0, DEEDS - 1 do
+  local bytes = {LISTEN, deed}
+  for type = 0, EVENTS - 1 do
+    for _, byte in ipairs{POST, type, 1, 2, 3, 4, 1, 65, 0} do bytes[#bytes + 1] = byte end
+  end
+  bytes[#bytes + 1], bytes[#bytes + 2] = FRAME, COLLECT
+  write("events-" .. deed, bytes)
+end
