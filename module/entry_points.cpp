@@ -2,8 +2,10 @@
 #include <lua.hpp>
 
 #include "binding/boundary.h"
+#include "binding/closing.h"
 #include "constants/constants.h"
 #include "download/download_table.h"
+#include "download/handler.h"
 #include "events/callbacks.h"
 #include "events/pad_event.h"
 #include "events/pump.h"
@@ -26,9 +28,15 @@ void SetSubTable(lua_State* L, const char* key, const luaL_Reg* functions) {
   lua_rawset(L, -3);
 }
 
+// After this, no object of the state answers and the download service calls it no more.
+void AtClose(lua_State* L, const StateRecord& state) {
+  if (downloadHandler.state() == state.mainState) downloadHandler.SetState(nullptr);
+  UnregisterClasses(L);
+}
+
 // The module table stays on top from where it is made to the end. It is published as soon as its functions stand.
 Outcome Init(lua_State* L) {
-  WatchForClosing(L);
+  WatchForClosing(L, AtClose);
   tarn::velora::LogChannel = tarn::log::RegisterChannel("VELORA");
   lua_createtable(L, 0, 0);
   luaL_setfuncs(L, kModuleFunctions, 0);

@@ -66,16 +66,19 @@ class RecordPusher {
       fresh_ = nullptr;
   }
 
-  // Pushes a new userdata for what is held, nil for nothing. May raise.
+  // Pushes a new userdata for what is held; nil for nothing, or when the state is closing. May raise.
   template <class Record>
   void Push(lua_State* L) {
+    if (state_ == nullptr) state_ = StateRecordOf(L);
+    if (state_->closed) fresh_ = nullptr;
     if (fresh_ == nullptr) return lua_pushnil(L);
     ToUserType(L, fresh_.get(), ClassOf<Record>::kMetatable);
-    fresh_.release();
+    state_->Add(*fresh_.release());
   }
 
  private:
   std::unique_ptr<Holder> fresh_;
+  StateRecord* state_ = nullptr;
 };
 
 // Pushes a new table with a userdata for each record, nil for an empty reference. May raise.

@@ -4,6 +4,7 @@
 #include <memory>
 #include <utility>
 
+#include "binding/closing.h"
 #include "platform/binding_helpers.h"
 #include "platform/product_info.h"
 #include "platform/share_info.h"
@@ -12,15 +13,10 @@ namespace luavelora {
 
 // What `__gc` needs of every holder. While a Pin on it lives, a `__gc` that a script calls by hand detaches the
 // holder from its userdata at once but leaves freeing it to the last Pin.
-class Holder {
+class Holder : public Owned {
  public:
-  Holder() = default;
-  Holder(const Holder&) = delete;
-  Holder& operator=(const Holder&) = delete;
-  virtual ~Holder() = default;
-
-  // Frees the holder, now or when its last Pin goes. Runs no Lua.
-  void Release() {
+  // Frees the holder, now or when its last Pin goes.
+  void Release() override {
     released_ = true;
     FreeIfDone();
   }

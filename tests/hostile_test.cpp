@@ -251,5 +251,36 @@ TEST_F(Hostile, AnSdkThatCallsScriptsInTheMiddleOfACall) {
   host->Run("order = nil share = nil product = nil collectgarbage()");
 }
 
+// Lua finalises nothing that is made while the state closes; what it owns is given back all the same.
+TEST_F(Hostile, FinalisersThatMakeObjectsWhileTheStateCloses) {
+  host = std::make_unique<Host>(false);
+  const char* const make =
+      "setmetatable({}, {__gc = function() late = velora.OrderInfo.new('x') later = velora.ShareInfo.new() "
+      "velora.ProductInfo.new():set_sdkPids{a = 'b'} tostring(late) velora.OrderInfo.get_aid(late) end})";
+  host->Run(make);
+  InitLuaVelora(host->L);
+  host->Run(make);
+  host->Close();
+  EXPECT_EQ(offline::LiveRecords(), 0u);
+}
+
+// With no memory for the call of a finaliser, Lua drops it; the record goes when the state closes.
+TEST_F(Hostile, FinalisersThatFindNoMemory) {
+  host->Run("for i = 1, 20 do velora.OrderInfo.new(i) end");
+  lua_State* L = host->L;
+  for (int depth = 0; depth < 50; ++depth) {
+    lua_pushcfunction(L, [](lua_State* state) {
+      memory::FailAfter(0);
+      lua_gc(state, LUA_GCCOLLECT, 0);
+      memory::Restore();
+      return 0;
+    });
+    lua_pcall(L, 0, 0, 0);
+    host->Run("local function nest(n) if n > 0 then return nest(n - 1), 1 end velora.AccountInfo.new() end nest(50)");
+  }
+  host->Close();
+  EXPECT_EQ(offline::LiveRecords(), 0u);
+}
+
 }  // namespace
 }  // namespace tests
