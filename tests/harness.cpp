@@ -114,6 +114,11 @@ std::string Render(lua_State* L, int index) {
 
 Host::Host(bool initialise) : L(lua_newstate(memory::LuaAllocator, nullptr)) {
   luaL_openlibs(L);
+  // With VELORA_AGGRESSIVE_GC set, a full cycle at every chance finds what is not anchored.
+  if (std::getenv("VELORA_AGGRESSIVE_GC") != nullptr) {
+    lua_gc(L, LUA_GCSETPAUSE, 0);
+    lua_gc(L, LUA_GCSETSTEPMUL, 1000000);
+  }
   if (!initialise) return;
   InitLuaVelora(L);
   EXPECT_EQ(lua_gettop(L), 0);
