@@ -20,6 +20,33 @@ test: ## build and run every test
 	cmake --build --preset sanitize
 	ctest --preset sanitize
 
+.PHONY: threads
+threads: ## run the thread tests under the thread sanitizer
+	tools/setup test
+	cmake --preset thread
+	cmake --build --preset thread --target velora_thread_tests
+	$(BUILD)/thread/bin/velora_thread_tests
+
+# The fuzzer reads the inputs that are checked in and keeps what it learns in the build folder.
+SECONDS := 60
+.PHONY: fuzz
+fuzz: ## let the fuzzer look for trouble, SECONDS=60 long
+	tools/setup fuzz
+	cmake --preset fuzz
+	cmake --build --preset fuzz --target velora_fuzz
+	mkdir -p $(BUILD)/fuzz/corpus
+	$(BUILD)/fuzz/bin/velora_fuzz -max_total_time=$(SECONDS) -max_len=2048 -timeout=30 -rss_limit_mb=4096 \
+	  -artifact_prefix=$(BUILD)/fuzz/ -print_final_stats=1 $(BUILD)/fuzz/corpus tests/fuzz/corpus
+
+.PHONY: coverage
+coverage: ## measure which lines of the module's folders the tests reach
+	tools/setup coverage
+	cmake --preset coverage
+	cmake --build --preset coverage --target velora_tests
+	$(BUILD)/coverage/bin/velora_tests --gtest_brief=1
+	gcovr --root . --filter '(binding|records|events|wrappers|constants|download|module)/' --exclude-throw-branches \
+	  --print-summary --html-details $(BUILD)/coverage/index.html $(BUILD)/coverage
+
 .PHONY: format format-check
 format: ## lay the sources out with clang-format
 	tools/setup test
