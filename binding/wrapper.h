@@ -95,6 +95,8 @@ Outcome CallOperation(lua_State* L, void (*operation)(Parameters...)) {
 
 template <class Result, class... Parameters>
 Outcome CallOperation(lua_State* L, Result (*operation)(Parameters...)) {
+  static_assert(std::is_arithmetic_v<Result> || sizeof...(Parameters) == 0,
+                "a text is pushed with nothing owned alive");
   return WithArguments<Parameters...>(
       L, [L, operation](auto... views) { return GiveResult(L, operation(Parameter<Parameters>::Make(views)...)); });
 }

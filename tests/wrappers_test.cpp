@@ -94,8 +94,10 @@ TEST_F(Wrappers, QueriesGiveWhatTheSdkAnswers) {
     Expect(name, "", "", "\"\"");
     offline::SetAnswer(name, std::string("cut\0here", 8));
     Expect(name, "", "", "\"cut\"");
-    offline::SetAnswer(name, std::string(100000, 'x'));
-    Expect(name, "", "", '"' + std::string(100000, 'x') + '"');
+    for (const std::size_t size : {255u, 256u, 257u, 264u, 100000u}) {
+      offline::SetAnswer(name, std::string(size, 'x'));
+      Expect(name, "", "", '"' + std::string(size, 'x') + '"');
+    }
     offline::SetAnswer(name, false);
     Expect(name, "", "");
   }
@@ -119,8 +121,10 @@ TEST_F(Wrappers, OneTextIsReadByConversionAlone) {
     for (const char* bad : kNoTexts) Expect(name, bad, nullptr);
   }
   for (const char* name : {"isBinded", "zvHasPlatform", "hasFeature"}) {
-    offline::SetAnswer(name, true);
-    Expect(name, "'key'", "\"key\"", "true");
+    for (const bool answer : {false, true}) {
+      offline::SetAnswer(name, answer);
+      Expect(name, "'key'", "\"key\"", answer ? "true" : "false");
+    }
     for (const char* bad : kNoTexts) Expect(name, bad, nullptr, name == std::string("hasFeature") ? "false" : "");
   }
   offline::SetAnswer("DRPF", std::int64_t{-1});

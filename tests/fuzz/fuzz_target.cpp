@@ -234,17 +234,27 @@ void CallHandler(Program& program) {
   }
 }
 
-// Runs an entry point as a host does, ready for a memory error.
-void Protected(lua_State* L, lua_CFunction entryPoint) {
+// Runs `step` as a host would, ready for a memory error or a finaliser's.
+void Protected(lua_State* L, Program& program, void (*step)(lua_State*, Program&)) {
+  struct Call {
+    Program& program;
+    void (*step)(lua_State*, Program&);
+  } call{program, step};
   const int top = lua_gettop(L);
-  lua_pushcfunction(L, entryPoint);
-  lua_pcall(L, 0, 0, 0);
+  lua_pushcfunction(L, [](lua_State* state) {
+    const Call& inner = *static_cast<const Call*>(lua_touserdata(state, 1));
+    inner.step(state, inner.program);
+    return 0;
+  });
+  lua_pushlightuserdata(L, &call);
+  lua_pcall(L, 1, 0, 0);
   lua_settop(L, top);
 }
 
-int Update(lua_State* L) { return UpdateLuaVelora(L), 0; }
-int Init(lua_State* L) { return InitLuaVelora(L), 0; }
-int Deinit(lua_State* L) { return DeinitLuaVelora(L), 0; }
+void Update(lua_State* L, Program&) { UpdateLuaVelora(L); }
+void Init(lua_State* L, Program&) { InitLuaVelora(L); }
+void Deinit(lua_State* L, Program&) { DeinitLuaVelora(L); }
+void Collect(lua_State* L, Program&) { lua_gc(L, LUA_GCCOLLECT, 0); }
 
 // One instruction. What it needs for itself it makes with memory; the shortage is for the module.
 void Step(tests::Host& host, Program& program, bool& shortage) {
@@ -253,9 +263,9 @@ void Step(tests::Host& host, Program& program, bool& shortage) {
   if (shortage && instruction > 8) return;
   switch (instruction) {
     case 0:
-      return Protected(L, Update);
+      return Protected(L, program, Update);
     case 1:
-      return Protected(L, Deinit);
+      return Protected(L, program, Deinit);
     case 2: {
       if (luavelora::downloadHandler.state() != nullptr && !shortage) CallHandler(program);
       return;
@@ -270,29 +280,18 @@ void Step(tests::Host& host, Program& program, bool& shortage) {
       tests::memory::Restore();
       return;
     case 5:
-      return Protected(L, Init);
+      return Protected(L, program, Init);
     case 6:
     case 7:
-    case 8: {
-      // The call's arguments may not fit; then nothing is called.
-      const auto call = [](lua_State* state) {
-        CallFunction(state, *static_cast<Program*>(lua_touserdata(state, 1)));
-        return 0;
-      };
-      const int top = lua_gettop(L);
-      lua_pushcfunction(L, call);
-      lua_pushlightuserdata(L, &program);
-      lua_pcall(L, 1, 0, 0);
-      return lua_settop(L, top);
-    }
+    case 8:
+      return Protected(L, program, CallFunction);
     case 9:
-      return ListenToEverything(L, program);
+      return Protected(L, program, ListenToEverything);
     case 10:
       lua_gc(L, LUA_GCSETPAUSE, program.Below(2) == 0 ? 0 : 200);
       return;
     case 11:
-      lua_gc(L, LUA_GCCOLLECT, 0);
-      return;
+      return Protected(L, program, Collect);
     default:
       return PostEvent(program);
   }
@@ -319,6 +318,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     bool shortage = false;
     while (!program.Done()) Step(host, program, shortage);
     tests::memory::Restore();
+    for (int i = 0; i < 3; ++i) Protected(host.L, program, Collect);  // finalisers that raise come out here
     Demand(lua_gettop(host.L) == 0, "stack height");
     Demand(host.Run("return type(velora.isInit())") == "\"boolean\"", "the state after all");
   }
