@@ -64,13 +64,15 @@ TEST_F(Download, RegisteringFollowsItsSteps) {
                     "t.onProgress == handler.onProgress, t.onFinish == handler.onFinish",
                     "true, true, true, true",
                     {}},
-                   {"d.setSyncDownloadHandler('x') return d.getSyncDownloadHandler() ~= nil", "true", {}},
+                   {"d.setSyncDownloadHandler('x') kept = d.getSyncDownloadHandler() return kept ~= nil", "true", {}},
                    {"d.setSyncDownloadHandler{onInited = print, onProgress = print}", kInvalid, kOff},
                    {"return d.getSyncDownloadHandler()", "", {}},
+                   {"return kept", "{}", {}},
                    {"d.setSyncDownloadHandler(setmetatable({}, {__index = handler}))", kInvalid, kOff},
                    {"d.setSyncDownloadHandler{onInited = print, onProgress = print, onFinish = {}}", kInvalid, kOff},
                    {"return d.setSyncDownloadHandler(handler)", "", kOn},
                    {"return d.setSyncDownloadHandler()", "", kOff},
+                   {"return kept", "{}", {}},
                    {"return d.getSyncDownloadHandler()", "", {}},
                });
   EXPECT_TRUE(offline::Handlers().empty());
