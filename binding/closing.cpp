@@ -12,11 +12,33 @@ Outcome Close(lua_State* L) {
   auto& record = *static_cast<StateRecord*>(lua_touserdata(L, 1));
   record.closed = true;
   record.atClose(L, record);
-  while (record.first != nullptr) record.first->Release();
+  record.ReleaseAll();
   return Outcome::Results(0);
 }
 
+// Lua makes this text outside protected mode, where a protected call fails in its message handler. Kept alive, it is
+// found and not made, so that lua_pcall never raises for want of memory.
+void KeepErrorText(lua_State* L) {
+  lua_pushliteral(L, "error in error handling");
+  lua_setfield(L, LUA_REGISTRYINDEX, "velora.errorText");
+}
+
 }  // namespace
+
+void Owned::Unlink() {
+  if (link_ != nullptr) *link_ = next_;
+  if (next_ != nullptr) next_->link_ = link_;
+  next_ = nullptr;
+  link_ = nullptr;
+}
+
+void StateRecord::ReleaseAll() {
+  while (first != nullptr) {
+    Owned& owned = *first;
+    owned.Unlink();  // it may outlive its release
+    owned.release_(owned);
+  }
+}
 
 void StateRecord::Add(Owned& owned) {
   owned.next_ = first;
@@ -27,6 +49,7 @@ void StateRecord::Add(Owned& owned) {
 
 void WatchForClosing(lua_State* L, void (*atClose)(lua_State*, const StateRecord&)) {
   if (StateRecordOf(L) != nullptr) return;
+  KeepErrorText(L);
   lua_rawgeti(L, LUA_REGISTRYINDEX, LUA_RIDX_MAINTHREAD);
   lua_State* mainState = lua_tothread(L, -1);
   lua_createtable(L, 0, 1);

@@ -7,23 +7,23 @@
 
 namespace luavelora {
 
-// Something that userdata of one Lua state own. Touched on the thread of Lua only.
+// Something that a userdata of one Lua state owns. Touched on the thread of Lua only.
 class Owned {
  public:
-  Owned() = default;
   Owned(const Owned&) = delete;
   Owned& operator=(const Owned&) = delete;
 
-  virtual ~Owned() {
-    if (link_ != nullptr) *link_ = next_;
-    if (next_ != nullptr) next_->link_ = link_;
-  }
-
-  // Gives it back; called once its userdata has let go of it. Runs no Lua.
-  virtual void Release() = 0;
+ protected:
+  // `release` gives the object back; it is called when the state closes and may leave that to somebody who still works
+  // with the object. It runs no Lua.
+  explicit Owned(void (*release)(Owned&)) : release_(release) {}
+  ~Owned() { Unlink(); }
 
  private:
   friend struct StateRecord;
+  void Unlink();
+
+  void (*release_)(Owned&);
   Owned* next_ = nullptr;
   Owned** link_ = nullptr;  // what points here
 };
@@ -36,6 +36,7 @@ struct StateRecord {
   Owned* first;
 
   void Add(Owned& owned);
+  void ReleaseAll();
 };
 
 // Makes the state's record, once, before anything else is made at the module's start. May raise.

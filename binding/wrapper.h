@@ -72,9 +72,15 @@ inline Outcome GiveResult(lua_State* L, const char* text) {
   return Outcome::Results(1);
 }
 
+// Whether a view points into an object, which script code may finish.
+template <class View>
+inline constexpr bool kIsObject = std::is_pointer_v<View> && !std::is_same_v<View, const char*>;
+
 // Tests the arguments, reads them, and calls `use(views...)` with the views of all parameters.
 template <class... Parameters, class Use>
 Outcome WithArguments(lua_State* L, Use use) {
+  static_assert(sizeof...(Parameters) < 2 || !(kIsObject<typename Parameter<Parameters>::View> || ...),
+                "reading a text after an object may finish the object");
   return [&]<std::size_t... i>(std::index_sequence<i...>) {
     if (!(Parameter<Parameters>::Test(L, static_cast<int>(i) + 1) && ...)) return Refusal();
     const std::tuple<typename Parameter<Parameters>::View...> views{

@@ -12,52 +12,72 @@ namespace {
 
 namespace sdk = tarn::velora::download;
 
-// Empties the handler's callback table, which is on top of the stack. The handler is off by then.
-void ClearHandler(lua_State* L) {
-  for (const char* key : kHandlerKeys) {
-    lua_pushstring(L, key);
-    lua_pushnil(L);
-    lua_rawset(L, -3);
+// Where SetSyncDownloadHandler keeps things on the stack. All that may run script code, which may set a handler of its
+// own, comes first; from then on nothing is made.
+constexpr int kTable = 2;
+constexpr int kFirstKey = kTable + 1;
+constexpr int kFirstFunction = kFirstKey + kHandlerFunctions;
+
+void PrepareStack(lua_State* L, bool given) {
+  lua_settop(L, 1);
+  GetSdkCallbackTable(L, kHandlerTable);
+  for (const char* key : kHandlerKeys) lua_pushstring(L, key);
+  for (int i = 0; i < kHandlerFunctions; ++i) {
+    lua_pushvalue(L, kFirstKey + i);
+    if (given) lua_rawget(L, 1);
   }
 }
 
-// Copies the three functions of the handler table at index 1 into the callback table on top of the stack. False
-// when one is missing.
-bool TakeFunctions(lua_State* L) {
-  for (const char* key : kHandlerKeys) {
-    lua_pushstring(L, key);
-    lua_pushvalue(L, -1);
-    lua_rawget(L, 1);
-    if (!lua_isfunction(L, -1)) {
-      lua_pop(L, 2);
-      return false;
-    }
-    lua_rawset(L, -3);
+// Takes the old functions out of the callback table.
+void ClearFunctions(lua_State* L) {
+  for (int i = 0; i < kHandlerFunctions; ++i) {
+    lua_pushvalue(L, kFirstKey + i);
+    const bool taken = lua_rawget(L, kTable) != LUA_TNIL;
+    lua_pop(L, 1);
+    if (!taken) continue;
+    lua_pushvalue(L, kFirstKey + i);
+    lua_pushnil(L);
+    lua_rawset(L, kTable);
   }
+}
+
+bool AllAreFunctions(lua_State* L) {
+  for (int i = 0; i < kHandlerFunctions; ++i)
+    if (!lua_isfunction(L, kFirstFunction + i)) return false;
   return true;
 }
 
-Outcome SetSyncDownloadHandler(lua_State* L) {
-  const bool given = lua_gettop(L) > 0;
-  if (given && !lua_istable(L, 1)) return Refusal();
-  sdk::enableAsyncEvent(false);
-  sdk::removeSyncDownloadHandler(&downloadHandler);
-  downloadHandler.SetState(nullptr);
-  GetSdkCallbackTable(L, kHandlerTable);
-  ClearHandler(L);
-  const StateRecord* state = StateRecordOf(L);
-  if (!given || state->closed) return Outcome::Results(0);
-  if (!TakeFunctions(L)) {
-    ClearHandler(L);
-    return Outcome::Error("setSyncDownloadHandler with invalid lua handler");
+void StoreFunctions(lua_State* L) {
+  for (int i = 0; i < kHandlerFunctions; ++i) {
+    lua_pushvalue(L, kFirstKey + i);
+    lua_pushvalue(L, kFirstFunction + i);
+    lua_rawset(L, kTable);
   }
-  downloadHandler.SetState(state->mainState);
+}
+
+void Register(lua_State* mainState) {
+  downloadHandler.SetState(mainState);
   try {
     sdk::addSyncDownloadHandler(&downloadHandler);
   } catch (const std::exception&) {
     downloadHandler.SetState(nullptr);
     throw;
   }
+}
+
+Outcome SetSyncDownloadHandler(lua_State* L) {
+  const bool given = lua_gettop(L) > 0;
+  if (given && !lua_istable(L, 1)) return Refusal();
+  PrepareStack(L, given);
+  const StateRecord* state = StateRecordOf(L);
+  sdk::enableAsyncEvent(false);
+  sdk::removeSyncDownloadHandler(&downloadHandler);
+  downloadHandler.SetState(nullptr);
+  ClearFunctions(L);
+  if (!given || state->closed) return Outcome::Results(0);
+  if (!AllAreFunctions(L)) return Outcome::Error("setSyncDownloadHandler with invalid lua handler");
+  StoreFunctions(L);
+  Register(state->mainState);
   return Outcome::Results(0);
 }
 

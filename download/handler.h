@@ -8,7 +8,8 @@
 namespace luavelora {
 
 inline constexpr const char* kHandlerTable = "LuaSyncDownloadHandler";
-inline constexpr const char* kHandlerKeys[] = {"onInited", "onProgress", "onFinish"};
+inline constexpr int kHandlerFunctions = 3;
+inline constexpr const char* kHandlerKeys[kHandlerFunctions] = {"onInited", "onProgress", "onFinish"};
 
 // Forwards each of the SDK's calls to the script's function of the same name, in the state that registered it, and
 // does nothing while none is. The SDK must call it on the thread of that state. Nothing ever leaves an operation: what

@@ -1,5 +1,5 @@
 // The module's three entry points. Call each on the thread that owns the Lua state; each leaves the Lua stack as it
-// found it. None reports a failure of its own; a memory failure inside Lua leaves Init and Update as a Lua error.
+// found it. None reports a failure of its own; where memory runs out, a Lua error leaves it.
 #pragma once
 
 struct lua_State;

@@ -13,7 +13,7 @@ void ToUserType(lua_State* L, void* pointer, const char* name);
 void* FromUserType(lua_State* L, std::int32_t index);
 
 // True when the value at `index` is a full userdata whose metatable is the one registered under `name`.
-// Answers false for everything else, an index without a value included; never raises.
+// Answers false for everything else, an index without a value included; raises no error of its own.
 bool CheckMetaTableInUserType(lua_State* L, std::int32_t index, const char* name);
 
 // Registers a metatable under `name`, made from the class table on top of the stack, and leaves the stack as it

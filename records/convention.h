@@ -55,29 +55,38 @@ HolderOf<Record>* Self(lua_State* L, int index = 1) {
 class RecordPusher {
  public:
   // Takes the holder that the next Push is to carry. Runs no Lua.
-  void Hold(std::unique_ptr<Holder> fresh) { fresh_ = std::move(fresh); }
+  void Hold(FreshHolder fresh) { fresh_ = std::move(fresh); }
 
   // Holds a new holder of `reference`, or nothing where that is empty.
   template <class Record>
   void HoldReference(const std::shared_ptr<Record>& reference) {
-    if (reference)
-      fresh_ = std::make_unique<HolderOf<Record>>(reference);
-    else
-      fresh_ = nullptr;
+    fresh_.reset(reference ? new HolderOf<Record>(reference) : nullptr);
   }
 
-  // Pushes a new userdata for what is held; nil for nothing, or when the state is closing. May raise.
+  // Pushes a new userdata for what is held. Gives nil for nothing, and where no userdata can own it: the state is
+  // closing, or the class is not registered. May raise.
   template <class Record>
   void Push(lua_State* L) {
     if (state_ == nullptr) state_ = StateRecordOf(L);
-    if (state_->closed) fresh_ = nullptr;
-    if (fresh_ == nullptr) return lua_pushnil(L);
+    if (fresh_ == nullptr || state_->closed) return PushNil(L);
     ToUserType(L, fresh_.get(), ClassOf<Record>::kMetatable);
+    // Making it may have run script code, and so the closing.
+    if (state_->closed || lua_getmetatable(L, -1) == 0) {
+      *static_cast<void**>(lua_touserdata(L, -1)) = nullptr;
+      lua_pop(L, 1);
+      return PushNil(L);
+    }
+    lua_pop(L, 1);
     state_->Add(*fresh_.release());
   }
 
  private:
-  std::unique_ptr<Holder> fresh_;
+  void PushNil(lua_State* L) {
+    fresh_ = nullptr;
+    lua_pushnil(L);
+  }
+
+  FreshHolder fresh_;
   StateRecord* state_ = nullptr;
 };
 
@@ -94,7 +103,7 @@ void PushRecordList(lua_State* L, RecordPusher& pusher, const std::vector<std::s
 
 // The outcome of a constructor: the userdata for `fresh`.
 template <class Record>
-Outcome GiveHolder(lua_State* L, std::unique_ptr<HolderOf<Record>> fresh) {
+Outcome GiveHolder(lua_State* L, FreshHolder fresh) {
   RecordPusher pusher;
   pusher.Hold(std::move(fresh));
   return PushProtected(L, [&pusher](lua_State* state) { pusher.Push<Record>(state); });
@@ -104,7 +113,7 @@ Outcome GiveHolder(lua_State* L, std::unique_ptr<HolderOf<Record>> fresh) {
 template <class Record>
 Outcome GiveRecord(lua_State* L, const std::shared_ptr<Record>& reference) {
   if (!reference) return Outcome::Error(ClassOf<Record>::kUnsupported);
-  return GiveHolder<Record>(L, std::make_unique<HolderOf<Record>>(reference));
+  return GiveHolder<Record>(L, FreshHolder(new HolderOf<Record>(reference)));
 }
 
 // The record of a class whose factories are New() and New(text), as the arguments choose; `give(reference)` has the

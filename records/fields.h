@@ -78,7 +78,7 @@ struct String {
     if (Self<Record>(L) == nullptr) return Refusal();
     const char* text = TextArgument(L, 2);
     // Reading a number's text may have run script code: the object may be finished by now.
-    auto* holder = HolderAt<HolderOf<Record>>(L, 1);
+    auto* holder = Self<Record>(L);
     if (holder != nullptr) CallOnRecord<set>(*holder, std::string(text == nullptr ? "" : text));
     return Outcome::Results(0);
   }

@@ -10,13 +10,14 @@ using tarn::velora::IntMap;
 using tarn::velora::ProductInfo;
 using tarn::velora::StringMap;
 
-std::unique_ptr<ProductInfoHolder> BindProduct(const ProductInfo& source) {
-  auto holder = std::make_unique<ProductInfoHolder>();
+FreshHolder BindProduct(const ProductInfo& source) {
+  auto* holder = new ProductInfoHolder;
+  FreshHolder owner(holder);
   holder->record = std::make_unique<ProductInfo>(source);
   holder->m_sdk_pids = std::make_shared<const StringMap>(source.sdkPids);
   holder->m_channel_goodsTypes = std::make_shared<const IntMap>(source.channelGoodsTypes);
   holder->m_jell_ratios = std::make_shared<const IntMap>(source.jellRatios);
-  return holder;
+  return owner;
 }
 
 ProductInfo& FlushProduct(ProductInfoHolder& holder) {
@@ -50,7 +51,7 @@ Outcome SetString(lua_State* L) {
   if (Self<ProductInfo>(L) == nullptr) return Refusal();
   const char* text = TextArgument(L, 2);
   // Reading a number's text may have run script code: the object may be finished by now.
-  if (auto* holder = HolderAt<ProductInfoHolder>(L, 1)) (*holder->record).*member = text == nullptr ? "" : text;
+  if (auto* holder = Self<ProductInfo>(L)) (*holder->record).*member = text == nullptr ? "" : text;
   return Outcome::Results(0);
 }
 

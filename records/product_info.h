@@ -8,7 +8,7 @@
 namespace luavelora {
 
 // A holder with its own copy of `source`, side maps included.
-std::unique_ptr<ProductInfoHolder> BindProduct(const tarn::velora::ProductInfo& source);
+FreshHolder BindProduct(const tarn::velora::ProductInfo& source);
 
 // The holder's record, after copying the side maps into it.
 tarn::velora::ProductInfo& FlushProduct(ProductInfoHolder& holder);

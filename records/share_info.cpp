@@ -45,8 +45,9 @@ const std::shared_ptr<ShareInfo>& FlushShare(ShareInfoHolder& holder) {
 namespace {
 
 // A holder of `reference` with its caches filled from the record.
-std::unique_ptr<ShareInfoHolder> Bind(const std::shared_ptr<ShareInfo>& reference) {
-  auto holder = std::make_unique<ShareInfoHolder>(reference);
+FreshHolder Bind(const std::shared_ptr<ShareInfo>& reference) {
+  auto* holder = new ShareInfoHolder(reference);
+  FreshHolder owner(holder);
   holder->aLinkParams = Take(*reference, &ShareInfo::get_aLinkParams);
   holder->altTextMsg = Take(*reference, &ShareInfo::get_altTextMsg);
   holder->iLinkParams = Take(*reference, &ShareInfo::get_iLinkParams);
@@ -55,7 +56,7 @@ std::unique_ptr<ShareInfoHolder> Bind(const std::shared_ptr<ShareInfo>& referenc
   holder->subTextMsg = Take(*reference, &ShareInfo::get_subTextMsg);
   holder->textMsg = Take(*reference, &ShareInfo::get_textMsg);
   holder->toUserList = Take(*reference, &ShareInfo::get_toUserList);
-  return holder;
+  return owner;
 }
 
 Outcome New(lua_State* L) {
@@ -91,7 +92,7 @@ Outcome SetCachedList(lua_State* L) {
   std::int32_t length = 0;
   if (const char* tooLong = ClaimedLength(L, 2, length)) return Outcome::Error(tooLong);
   // Asking for the length may have run script code: the object may be finished by now.
-  auto* holder = HolderAt<ShareInfoHolder>(L, 1);
+  auto* holder = Self<ShareInfo>(L);
   if (holder != nullptr) holder->*cache = std::make_shared<const StringList>(ReadStringList(L, 2, length));
   return Outcome::Results(0);
 }
