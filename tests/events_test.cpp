@@ -6,6 +6,8 @@
 
 #include "platform/binding_helpers.h"
 #include "platform/event.h"
+#include "platform/log.h"
+#include "platform/operations.h"
 #include "tests/harness.h"
 
 namespace tests {
@@ -118,6 +120,36 @@ TEST_F(Events, UnknownTypesAreLoggedOnlyWhereTheTableHoldsAValue) {
   EXPECT_EQ(host->Frame(), "");
   EXPECT_EQ(offline::TakeLog(), (std::vector<std::string>{"[VELORA] ERROR Unknown velora event 60",
                                                           "[VELORA] ERROR Unknown velora event -1"}));
+}
+
+// The channel that the SDK's global holds at the time of the call.
+TEST_F(Events, LinesGoToTheChannelOfTheMoment) {
+  const std::uint32_t own = LogChannel;
+  LogChannel = tarn::log::RegisterChannel("OTHER");
+  host->Run("velora.setOnLoginDone(function() error('x', 0) end)");
+  PostCode(15, 0);
+  GetSdkCallbackTable(host->L, "VELORA");
+  lua_pushboolean(host->L, 1);
+  lua_rawseti(host->L, -2, 60);
+  lua_pop(host->L, 1);
+  offline::Post(std::make_shared<Event>(60));
+  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(offline::TakeLog(),
+            (std::vector<std::string>{"[OTHER] 0 [Velora callback err] x", "[OTHER] ERROR Unknown velora event 60"}));
+  LogChannel = own;
+}
+
+TEST_F(Events, TheBatchIsReleasedFirstToLast) {
+  struct Witness : CodeEvent {
+    Witness(int number, std::vector<int>* log) : CodeEvent(15), released(log) { code = number; }
+    ~Witness() override { released->push_back(code); }
+    std::vector<int>* released;
+  };
+  std::vector<int> released;
+  host->Run("velora.setOnLoginDone(function() error('x') end)");
+  for (int i = 1; i <= 3; ++i) offline::Post(std::make_shared<Witness>(i, &released));
+  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(released, (std::vector<int>{1, 2, 3}));
 }
 
 TEST_F(Events, CallbacksSetInAPassServeTheNextEventOfIt) {
