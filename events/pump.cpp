@@ -54,6 +54,19 @@ constexpr DeliverFunction kDeliver[] = {
 };
 static_assert(std::size(kDeliver) == kEventTypes);
 
+// The rows stand in the order of their type numbers.
+constexpr int kTypes[] = {
+#define VELORA_EVENT(type, name, Layout) type,
+#include "platform/events.def"
+#undef VELORA_EVENT
+};
+constexpr bool InOrder() {
+  for (int i = 0; i < kEventTypes; ++i)
+    if (kTypes[i] != i) return false;
+  return true;
+}
+static_assert(InOrder());
+
 // Delivers the rest of the batch; runs in protected mode. The callback table of a name is one for the life of the
 // state, so it is fetched once; its slots are read anew for every event, since callbacks may change them.
 void DeliverRest(lua_State* L, Pass& pass) {

@@ -3,11 +3,8 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
-#include <string>
 
 #include "platform/import.h"
-#include "platform/types.h"
 
 namespace tarn::velora {
 

@@ -135,11 +135,24 @@ struct StrictList {
 #define VELORA_SETTER(Record, name, Family) \
   { "set_" #name, Entry<family::Family::Set<&tarn::velora::Record::set_##name>> }
 
-// A new Lua table made by `push` from a cache that setters replace as a whole: holding on to the container is enough,
-// whatever script code runs while the table is built.
-template <class Container>
-Outcome GiveCache(lua_State* L, Cache<Container> cache, void (*push)(lua_State*, const Container&)) {
-  return PushProtected(L, [&](lua_State* state) { push(state, *cache); });
+// Accessors of a holder's cache. The getter holds on to the container while `push` makes a table of it, whatever script
+// code runs meanwhile; the setter raises `error` for anything but a table and keeps the old content.
+template <class Record, auto cache, auto push>
+Outcome GetCache(lua_State* L) {
+  const auto* holder = Self<Record>(L);
+  if (holder == nullptr) return Refusal();
+  const auto content = holder->*cache;
+  return PushProtected(L, [&content](lua_State* state) { push(state, *content); });
+}
+
+template <class Record, auto cache, auto read, const char* error>
+Outcome SetCachedMap(lua_State* L) {
+  auto* holder = Self<Record>(L);
+  if (holder == nullptr) return Refusal();
+  if (!lua_istable(L, 2)) return Outcome::Error(error);
+  auto map = read(L, 2);
+  holder->*cache = std::make_shared<const decltype(map)>(std::move(map));
+  return Outcome::Results(0);
 }
 
 }  // namespace luavelora

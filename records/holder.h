@@ -84,6 +84,7 @@ using Cache = std::shared_ptr<const Container>;
 struct ShareInfoHolder : SharedRecordHolder<tarn::velora::ShareInfo> {
   explicit ShareInfoHolder(const std::shared_ptr<tarn::velora::ShareInfo>& reference)
       : SharedRecordHolder(reference, DestroyAs<ShareInfoHolder>) {}
+  ~ShareInfoHolder() { record.reset(); }  // the record goes first
 
   Cache<tarn::velora::StringMap> aLinkParams;
   Cache<tarn::velora::StringMap> altTextMsg;
@@ -98,6 +99,11 @@ struct ShareInfoHolder : SharedRecordHolder<tarn::velora::ShareInfo> {
 // A private copy of a product, and the side maps of its three map fields.
 struct ProductInfoHolder : Holder {
   ProductInfoHolder() : Holder(DestroyAs<ProductInfoHolder>) {}
+  ~ProductInfoHolder() {  // the record goes first, then the maps in their order
+    record.reset();
+    m_sdk_pids.reset();
+    m_channel_goodsTypes.reset();
+  }
 
   std::unique_ptr<tarn::velora::ProductInfo> record;
   Cache<tarn::velora::StringMap> m_sdk_pids;

@@ -32,8 +32,10 @@ namespace {
 Outcome New(lua_State* L) { return GiveHolder<ProductInfo>(L, BindProduct(ProductInfo())); }
 
 Outcome ToString(lua_State* L) {
-  return TextForm<ProductInfo>(
-      L, [](ProductInfoHolder& holder, std::string& out) { return tarn::velora::toString(FlushProduct(holder), out); });
+  return TextForm<ProductInfo>(L, [](ProductInfoHolder& holder, std::string& out) {
+    const ProductInfo product = FlushProduct(holder);  // the SDK may call scripts, and those may set fields
+    return tarn::velora::toString(product, out);
+  });
 }
 
 template <auto member>
@@ -69,22 +71,6 @@ Outcome SetScalar(lua_State* L) {
   return Outcome::Results(0);
 }
 
-template <auto sideMap, auto push>
-Outcome GetMap(lua_State* L) {
-  const auto* holder = Self<ProductInfo>(L);
-  return holder == nullptr ? Refusal() : GiveCache(L, holder->*sideMap, push);
-}
-
-template <auto sideMap, auto read, const char* error>
-Outcome SetMap(lua_State* L) {
-  auto* holder = Self<ProductInfo>(L);
-  if (holder == nullptr) return Refusal();
-  if (!lua_istable(L, 2)) return Outcome::Error(error);
-  auto map = read(L, 2);
-  holder->*sideMap = std::make_shared<const decltype(map)>(std::move(map));
-  return Outcome::Results(0);
-}
-
 constexpr char kSdkPidsError[] = "self->m_sdk_pidsmust be table";
 constexpr char kGoodsTypesError[] = "self->m_channel_goodsTypesmust be table";
 constexpr char kJellRatiosError[] = "self->m_jell_ratiosmust be table";
@@ -95,9 +81,9 @@ constexpr char kJellRatiosError[] = "self->m_jell_ratiosmust be table";
   {"get_" #name, Entry<GetScalar<&ProductInfo::name, push>>}, { \
     "set_" #name, Entry<SetScalar<&ProductInfo::name, read>>    \
   }
-#define VELORA_MAP(name, sideMap, push, read, error)                      \
-  {"get_" #name, Entry<GetMap<&ProductInfoHolder::sideMap, push>>}, {     \
-    "set_" #name, Entry<SetMap<&ProductInfoHolder::sideMap, read, error>> \
+#define VELORA_MAP(name, sideMap, push, read, error)                                         \
+  {"get_" #name, Entry<GetCache<ProductInfo, &ProductInfoHolder::sideMap, push>>}, {         \
+    "set_" #name, Entry<SetCachedMap<ProductInfo, &ProductInfoHolder::sideMap, read, error>> \
   }
 
 const luaL_Reg kFunctions[] = {

@@ -70,21 +70,6 @@ Outcome ToString(lua_State* L) {
       L, [](ShareInfoHolder& holder, std::string& out) { return FlushShare(holder)->toString(out); });
 }
 
-template <auto cache, auto push>
-Outcome GetCached(lua_State* L) {
-  const auto* holder = Self<ShareInfo>(L);
-  return holder == nullptr ? Refusal() : GiveCache(L, holder->*cache, push);
-}
-
-template <auto cache, const char* error>
-Outcome SetCachedMap(lua_State* L) {
-  auto* holder = Self<ShareInfo>(L);
-  if (holder == nullptr) return Refusal();
-  if (!lua_istable(L, 2)) return Outcome::Error(error);
-  holder->*cache = std::make_shared<const StringMap>(ReadStringMap(L, 2));
-  return Outcome::Results(0);
-}
-
 template <auto cache, const char* error>
 Outcome SetCachedList(lua_State* L) {
   if (Self<ShareInfo>(L) == nullptr) return Refusal();
@@ -118,11 +103,11 @@ constexpr char kError_toUserList[] = "self->m_listToUserListmust be table";
 #define VELORA_SHARE_String(name) VELORA_GETTER(ShareInfo, name, String), VELORA_SETTER(ShareInfo, name, String),
 #define VELORA_SHARE_Int(name) VELORA_GETTER(ShareInfo, name, Int), VELORA_SETTER(ShareInfo, name, Int),
 #define VELORA_SHARE_Bool(name) VELORA_GETTER(ShareInfo, name, Bool), VELORA_SETTER(ShareInfo, name, Bool),
-#define VELORA_SHARE_CachedMap(name)                                       \
-  {"get_" #name, Entry<GetCached<&ShareInfoHolder::name, PushStringMap>>}, \
-      {"set_" #name, Entry<SetCachedMap<&ShareInfoHolder::name, kError_##name>>},
-#define VELORA_SHARE_CachedList(name)                                       \
-  {"get_" #name, Entry<GetCached<&ShareInfoHolder::name, PushStringList>>}, \
+#define VELORA_SHARE_CachedMap(name)                                                 \
+  {"get_" #name, Entry<GetCache<ShareInfo, &ShareInfoHolder::name, PushStringMap>>}, \
+      {"set_" #name, Entry<SetCachedMap<ShareInfo, &ShareInfoHolder::name, ReadStringMap, kError_##name>>},
+#define VELORA_SHARE_CachedList(name)                                                 \
+  {"get_" #name, Entry<GetCache<ShareInfo, &ShareInfoHolder::name, PushStringList>>}, \
       {"set_" #name, Entry<SetCachedList<&ShareInfoHolder::name, kError_##name>>},
 #define VELORA_SHARE_RecordMap(name) VELORA_GETTER(ShareInfo, name, StringMap), {"set_" #name, Entry<SetShareData>},
 

@@ -80,7 +80,7 @@ std::string Expected(const std::string& family, int value) {
 #define VELORA_FIELD_READ_ONLY(name, Family) {#name, #Family},
 using Families = std::map<std::string, std::string>;
 
-// The getters and setters by slot, from slot 1 on: "get a b; set a b; text; get c; ...".
+// The getters and setters by slot, from slot 1 on: "GET a b SET a b TEXT GET c ...".
 struct Slot {
   char kind;
   std::string field;
@@ -223,22 +223,44 @@ TEST_F(Abi, TheDownloadHandlerHasThreeSlots) {
             "{[1]=\"inited\"}, {[1]=\"progress\", [2]=\"50\"}, {[1]=\"finish\", [2]=\"done\", [3]=\"a\\0b\"}");
 }
 
-// A share hands the SDK a record that holds the caches.
+TEST_F(Abi, TheTwoTextsOfAnOrderHaveTheirOwnSlots) {
+  offline::SetAnswer("OrderInfo.produceCartInfo", std::string("cart"));
+  offline::SetAnswer("OrderInfo.toString", std::string("text"));
+  auto order = offline::MakeOrder({});
+  EXPECT_EQ(Get(order.get(), 1 + 45, "String"), "cart");
+  EXPECT_EQ(Get(order.get(), 1 + 45 + 1 + 33, "String"), "text");
+}
+
+// A share hands the SDK a record that holds the caches, each in its own field.
 TEST_F(Abi, SharingWritesTheCachesIntoTheRecord) {
+  using tarn::velora::ShareInfo;
+  struct CachedMap {
+    const char* name;
+    void (ShareInfo::*get)(StringMap&);
+  };
+  const CachedMap maps[] = {
+      {"aLinkParams", &ShareInfo::get_aLinkParams}, {"altTextMsg", &ShareInfo::get_altTextMsg},
+      {"iLinkParams", &ShareInfo::get_iLinkParams}, {"linkParams", &ShareInfo::get_linkParams},
+      {"linkTextMsg", &ShareInfo::get_linkTextMsg}, {"subTextMsg", &ShareInfo::get_subTextMsg},
+      {"textMsg", &ShareInfo::get_textMsg},
+  };
   Host host;
   for (const char* wrapper : {"zvShare", "zvCheckArgs"}) {
-    host.Run("share = velora.ShareInfo.new() share:set_linkParams{k = 'v'} share:set_toUserList{'a'}");
+    host.Run("share = velora.ShareInfo.new() share:set_toUserList{'a'}");
+    for (const CachedMap& map : maps) host.Run(std::string("share:set_") + map.name + "{k = '" + map.name + "'}");
     lua_getglobal(host.L, "share");
     auto& record = **luavelora::HolderAt<luavelora::ShareInfoHolder>(host.L, -1)->record;
-    StringMap map;
-    StringList list;
-    record.get_linkParams(map);
-    EXPECT_TRUE(map.empty());
-    host.Run(std::string("velora.") + wrapper + "(share)");
-    record.get_linkParams(map);
-    record.get_toUserList(list);
-    EXPECT_EQ(map, (StringMap{{"k", "v"}}));
-    EXPECT_EQ(list, StringList{"a"});
+    for (const bool shared : {false, true}) {
+      if (shared) host.Run(std::string("velora.") + wrapper + "(share)");
+      for (const CachedMap& map : maps) {
+        StringMap content;
+        (record.*map.get)(content);
+        EXPECT_EQ(content, (shared ? StringMap{{"k", map.name}} : StringMap{})) << map.name;
+      }
+      StringList users;
+      record.get_toUserList(users);
+      EXPECT_EQ(users, (shared ? StringList{"a"} : StringList{}));
+    }
     lua_pop(host.L, 1);
   }
 }

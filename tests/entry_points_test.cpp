@@ -55,6 +55,9 @@ TEST_F(EntryPoints, ConstantsHoldTheSdksValues) {
 #define VELORA_SHARE_CONSTANT(name) EXPECT_CONSTANT("SHARE_" #name, tarn::velora::ShareInfo::name)
 #include "platform/share_constants.def"
 #undef VELORA_SHARE_CONSTANT
+  EXPECT_CONSTANT("QUERY_RANK_TYPE_SCORE", tarn::velora::QueryRankInfo::QUERY_RANK_TYPE_SCORE)
+  EXPECT_CONSTANT("QUERY_RANK_TYPE_GRADE", tarn::velora::QueryRankInfo::QUERY_RANK_TYPE_GRADE)
+  EXPECT_CONSTANT("QUERY_RANK_SCOPE_ALL", tarn::velora::QueryRankInfo::QUERY_RANK_SCOPE_ALL)
   EXPECT_CONSTANT("QUERY_RANK_SCOPE_FRIEND", tarn::velora::QueryRankInfo::QUERY_RANK_SCOPE_FRIEND)
   EXPECT_EQ(lua_gettop(host.L), 1);
   EXPECT_EQ(host.Run("return velora.LOGIN_DONE_VELORA_BIND_FAIL, velora.PAD_ACTION_PRESSURE, "

@@ -197,8 +197,8 @@ const std::map<std::string, Layout> kLayouts = {
                                               [](auto& e) {
                                                 e.texts = {"a", kCut, ""};
                                               })},
-    {"PadKeyEvent", Describe<PadKeyEvent>("0, nil", "96, \"PadEvent\"",
-                                          [](auto& e) { e.keyCode = 96, e.pad = offline::MakePad({}); })},
+    {"PadKeyEvent", Describe<PadKeyEvent>("0, nil", "-96, \"PadEvent\"",
+                                          [](auto& e) { e.keyCode = -96, e.pad = offline::MakePad({}); })},
     {"PadPressureEvent",
      Describe<PadPressureEvent>("0, 0.0, nil", "96, 0.25, \"PadEvent\"",
                                 [](auto& e) { e.keyCode = 96, e.pressure = 0.25f, e.pad = offline::MakePad({}); })},

@@ -1,4 +1,4 @@
-// The seven record classes, walked field by field from the row files.
+// The record classes that scripts can make, walked field by field from the row files.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -240,6 +240,8 @@ TEST_F(Records, ConstructorsAnswerAsTheirClassSays) {
           {"velora.OrderInfo.new()", "error: test:1: velora.OrderInfo must be init with productId of type str!", {}},
           {"return velora.SkuDetailsInfo.new(1, 2, 3, 4, 5, 6)", "", {}},
           {"return velora.SkuDetailsInfo.new(1, 2, 3, 4, 5, 6, {})", "", {}},
+          {"return velora.SkuDetailsInfo.new(1, true, 3, 4, 5, 6, 7)", "", {}},
+          {"return velora.SkuDetailsInfo.new(print, 2, 3, 4, 5, 6, 7)", "", {}},
           {"velora.SkuDetailsInfo.new(1, 'b', 3, 4, 5, 6.0, 7, {})",
            "",
            {"New(\"1\", \"b\", \"3\", \"4\", \"5\", \"6.0\", \"7\")"}},
@@ -372,14 +374,23 @@ TEST_F(Records, TableSettersRaiseAndKeepTheOldValue) {
       "{[1]=\"a\"}");
 }
 
-TEST_F(Records, CachedShareFieldsReachTheRecordByAFlush) {
-  offline::SetAnswer("zvCheckArgs", true);
+TEST_F(Records, TextFormsShowWhatAFlushWrote) {
   host.Run(
-      "share = velora.ShareInfo.new() share:set_linkParams{k = 'v'} share:set_toUserList{'a', 'b'} "
-      "share:set_title('T') first = share:get_linkParams() first.k = 'changed'");
-  EXPECT_EQ(host.Run("return share:get_linkParams(), share:get_toUserList()"), "{\"k\"=\"v\"}, {[1]=\"a\", [2]=\"b\"}");
-  EXPECT_EQ(host.Run("local s = tostring(share) return s:find('linkParams') ~= nil, s:find('toUserList') ~= nil"),
-            "true, true");
+      "product = velora.ProductInfo.new() product:set_sdkPids{pid = 'p1'} product:set_channelGoodsTypes{goods = 41} "
+      "product:set_jellRatios{ratio = 42} share = velora.ShareInfo.new() share:set_linkParams{k = 'l1'} "
+      "share:set_toUserList{'anna'} copy = share:get_linkParams() copy.k = 'changed'");
+  EXPECT_EQ(host.Run("local t = tostring(product) return t:find('p1') and t:find('41') and t:find('42') and true"),
+            "true");
+  EXPECT_EQ(host.Run("local t = tostring(share) return t:find('l1') and t:find('anna') and true, "
+                     "share:get_linkParams()"),
+            "true, {\"k\"=\"l1\"}");
+}
+
+TEST_F(Records, ShareDataThatTheRecordRefusesIsNoResult) {
+  host.Run("share = velora.ShareInfo.new() share:set_shareData{a = 'b'}");
+  EXPECT_EQ(host.Run("return share:get_shareData()"), "{\"a\"=\"b\"}");
+  offline::SetAnswer("ShareInfo.get_shareData", false);
+  EXPECT_EQ(host.Run("return share:get_shareData()"), "");
 }
 
 }  // namespace
