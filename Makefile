@@ -14,11 +14,20 @@ demo: ## build, and play examples/tour.lua against the offline runtime
 	$(BUILD)/release/bin/velora-play examples/tour.lua
 
 .PHONY: test
-test: ## build and run every test
+test: ## build and run every test, on Linux and then as Windows programs under Wine
 	tools/setup test
 	cmake --preset sanitize
 	cmake --build --preset sanitize
 	ctest --preset sanitize
+	cmake --preset windows
+	cmake --build --preset windows
+	tools/wine_run ctest --preset windows
+
+.PHONY: windows
+windows: ## build for 64-bit Windows: the module's DLL, the offline runtime, the player and the tests
+	tools/setup windows
+	cmake --preset windows
+	cmake --build --preset windows
 
 .PHONY: threads
 threads: ## run the thread tests under the thread sanitizer

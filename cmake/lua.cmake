@@ -1,12 +1,43 @@
 # Lua 5.3 as `lua_headers` (what compiling needs), `lua` (Lua built as C, which hosts ship) and, where the machine has
 # it, `lua_cxx` (Lua built as C++, whose errors are exceptions).
-find_package(PkgConfig REQUIRED)
-pkg_check_modules(LUA53 REQUIRED IMPORTED_TARGET lua5.3)
-pkg_check_modules(LUA53CXX IMPORTED_TARGET lua5.3-c++)
-
 add_library(lua_headers INTERFACE)
-target_include_directories(lua_headers SYSTEM INTERFACE ${LUA53_INCLUDE_DIRS})
-add_library(lua ALIAS PkgConfig::LUA53)
-if(TARGET PkgConfig::LUA53CXX)
-  add_library(lua_cxx ALIAS PkgConfig::LUA53CXX)
+
+if(NOT WIN32)
+  find_package(PkgConfig REQUIRED)
+  pkg_check_modules(LUA53 REQUIRED IMPORTED_TARGET lua5.3)
+  pkg_check_modules(LUA53CXX IMPORTED_TARGET lua5.3-c++)
+  target_include_directories(lua_headers SYSTEM INTERFACE ${LUA53_INCLUDE_DIRS})
+  add_library(lua ALIAS PkgConfig::LUA53)
+  if(TARGET PkgConfig::LUA53CXX)
+    add_library(lua_cxx ALIAS PkgConfig::LUA53CXX)
+  endif()
+  return()
 endif()
+
+set(VELORA_LUA_DLL lua53 CACHE STRING "The DLL, without .dll, from which the module imports Lua: the host's own")
+set(VELORA_LUA_SOURCE "" CACHE PATH "Lua 5.3's source, with its folder src; empty: Debian's, fetched when configuring")
+if(NOT VELORA_LUA_SOURCE AND CMAKE_HOST_WIN32)
+  message(FATAL_ERROR "VELORA_LUA_SOURCE must name the folder of Lua 5.3's source")
+elseif(NOT VELORA_LUA_SOURCE)
+  set(source ${CMAKE_BINARY_DIR}/lua)
+  execute_process(COMMAND ${CMAKE_SOURCE_DIR}/tools/fetch_lua ${source} COMMAND_ERROR_IS_FATAL ANY)
+else()
+  set(source ${VELORA_LUA_SOURCE})
+endif()
+target_include_directories(lua_headers SYSTEM INTERFACE ${source}/src)
+target_compile_definitions(lua_headers INTERFACE LUA_BUILD_AS_DLL)
+
+file(GLOB sources ${source}/src/*.c)
+list(FILTER sources EXCLUDE REGEX "/luac?\\.c$")
+add_library(lua SHARED ${sources})
+set_target_properties(lua PROPERTIES PREFIX "" OUTPUT_NAME ${VELORA_LUA_DLL})
+target_compile_definitions(lua PRIVATE LUA_BUILD_AS_DLL)
+target_link_libraries(lua INTERFACE lua_headers)
+
+# The same sources as C++, for the tests. Without LUA_BUILD_AS_DLL Debian's header gives the functions C names; exporting
+# everything makes up for its marks.
+add_library(lua_cxx SHARED EXCLUDE_FROM_ALL ${sources})
+set_target_properties(lua_cxx PROPERTIES PREFIX "" OUTPUT_NAME ${VELORA_LUA_DLL}-c++ LINKER_LANGUAGE CXX
+                                         WINDOWS_EXPORT_ALL_SYMBOLS ON)
+target_compile_options(lua_cxx PRIVATE $<IF:$<BOOL:${MSVC}>,/TP,-xc++>)
+target_link_libraries(lua_cxx INTERFACE lua_headers)

@@ -1,0 +1,10 @@
+# GoogleTest from the sources that Debian ships, for systems that it ships no library for.
+find_path(VELORA_GOOGLETEST googletest/CMakeLists.txt PATHS /usr/src PATH_SUFFIXES googletest REQUIRED
+          NO_CMAKE_FIND_ROOT_PATH)
+set(BUILD_GMOCK OFF)
+set(INSTALL_GTEST OFF)
+add_subdirectory(${VELORA_GOOGLETEST} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+if(NOT TARGET GTest::gtest)
+  add_library(GTest::gtest ALIAS gtest)
+  add_library(GTest::gtest_main ALIAS gtest_main)
+endif()
