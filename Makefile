@@ -14,7 +14,7 @@ demo: ## build, and play examples/tour.lua against the offline runtime
 	$(BUILD)/release/bin/velora-play examples/tour.lua
 
 .PHONY: test
-test: ## build and run every test, on Linux and then as Windows programs under Wine
+test: ## build and run every test: on Linux, as Windows programs under Wine, threads, a short fuzz run
 	tools/setup test
 	cmake --preset sanitize
 	cmake --build --preset sanitize
@@ -22,6 +22,8 @@ test: ## build and run every test, on Linux and then as Windows programs under W
 	cmake --preset windows
 	cmake --build --preset windows
 	tools/wine_run ctest --preset windows
+	$(MAKE) threads
+	$(MAKE) fuzz SECONDS=15
 
 .PHONY: windows
 windows: ## build for 64-bit Windows: the module's DLL, the offline runtime, the player and the tests
