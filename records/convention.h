@@ -68,7 +68,7 @@ class RecordPusher {
   template <class Record>
   void Push(lua_State* L) {
     if (state_ == nullptr) state_ = StateRecordOf(L);
-    if (fresh_ == nullptr || state_->closed) return PushNil(L);
+    if (fresh_ == nullptr || state_ == nullptr || state_->closed) return PushNil(L);
     ToUserType(L, fresh_.get(), ClassOf<Record>::kMetatable);
     // Making it may have run script code, and so the closing.
     if (state_->closed || lua_getmetatable(L, -1) == 0) {
