@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <functional>
 #include <map>
+#include <stdexcept>
 
 #include "offline/record.h"
 #include "platform/order_info.h"
@@ -45,15 +46,6 @@ auto WithAnswer(const char* operation, Use use) {
   std::lock_guard lock(calls.mutex);
   const auto found = calls.answers.find(std::string_view(operation));
   return found == calls.answers.end() ? use(Answer()) : use(found->second);
-}
-
-// A set number is the answer itself; without one that can be read, `unset` is.
-std::int32_t NumberOf(const char* operation, std::int32_t unset, std::int32_t whenTrue, std::int32_t whenFalse) {
-  return WithAnswer(operation, [&](const Answer& answer) {
-    if (const auto* number = std::get_if<std::int64_t>(&answer)) return static_cast<std::int32_t>(*number);
-    if (const auto* flag = std::get_if<bool>(&answer)) return *flag ? whenTrue : whenFalse;
-    return unset;
-  });
 }
 
 template <class Values, class AppendOne>
@@ -215,12 +207,35 @@ bool GiveText(const char* operation, const std::optional<std::string>& fallback,
   });
 }
 
-bool GiveFlag(const char* operation, bool fallback) { return GiveNumber(operation, fallback ? 1 : 0) != 0; }
+bool GiveOwnText(const char* operation, const std::string& own, std::string& out) {
+  return WithAnswer(operation, [&](const Answer& answer) {
+    const auto* text = std::get_if<std::string>(&answer);
+    const auto* flag = std::get_if<bool>(&answer);
+    out = text == nullptr ? own : *text;
+    return flag == nullptr || *flag;
+  });
+}
 
-std::int32_t GiveNumber(const char* operation, std::int32_t fallback) { return NumberOf(operation, fallback, 1, 0); }
+std::optional<std::int64_t> GivenNumber(const char* operation) {
+  return WithAnswer(operation, [](const Answer& answer) -> std::optional<std::int64_t> {
+    if (const auto* number = std::get_if<std::int64_t>(&answer)) return *number;
+    if (const auto* flag = std::get_if<bool>(&answer)) return *flag ? 1 : 0;
+    return std::nullopt;
+  });
+}
+
+bool GiveFlag(const char* operation, bool fallback) { return GivenNumber(operation).value_or(fallback ? 1 : 0) != 0; }
+
+std::int32_t GiveNumber(const char* operation, std::int32_t fallback) {
+  return static_cast<std::int32_t>(GivenNumber(operation).value_or(fallback));
+}
 
 std::int32_t GiveCode(const char* operation, std::int32_t success, std::int32_t failed) {
-  return NumberOf(operation, success, success, failed);
+  return WithAnswer(operation, [&](const Answer& answer) {
+    if (const auto* number = std::get_if<std::int64_t>(&answer)) return static_cast<std::int32_t>(*number);
+    const auto* flag = std::get_if<bool>(&answer);
+    return flag == nullptr || *flag ? success : failed;
+  });
 }
 
 std::vector<std::string> TakeCalls() { return TheCalls().lines.Take(); }
@@ -230,6 +245,7 @@ void SetTrace(bool enabled) { TheCalls().trace = enabled; }
 void SetCallHook(void (*hook)(const char* operation)) { TheCalls().hook = hook; }
 
 void SetAnswer(const std::string& name, Answer answer) {
+  if (!IsOperation(name)) throw std::invalid_argument("no operation is called '" + name + "'");
   Calls& calls = TheCalls();
   std::lock_guard lock(calls.mutex);
   if (std::holds_alternative<std::monostate>(answer)) {

@@ -117,12 +117,22 @@ void Call(const char* operation, const Arguments&... arguments) {
 // there is no fallback; `out` then means nothing, though it may be written, as the SDK may write it.
 bool GiveText(const char* operation, const std::optional<std::string>& fallback, std::string& out);
 
+// The same for an operation whose event carries its own text back: a set number, which may be the event's code, is no
+// text.
+bool GiveOwnText(const char* operation, const std::string& own, std::string& out);
+
+// The number that is set as an operation's answer, a flag as 1 or 0.
+std::optional<std::int64_t> GivenNumber(const char* operation);
+
 // What an operation that returns a flag or a number answers.
 bool GiveFlag(const char* operation, bool fallback);
 std::int32_t GiveNumber(const char* operation, std::int32_t fallback);
 
 // The code with which an operation's event arrives: a set number is the code, a set false means `failed`.
 std::int32_t GiveCode(const char* operation, std::int32_t success, std::int32_t failed);
+
+// Whether an operation, records' getters and setters included, has that name.
+bool IsOperation(std::string_view name);
 
 // Forgets the call lines and the set answers.
 void ForgetCalls();

@@ -20,13 +20,25 @@ namespace tarn::velora::offline {
 using Answer = std::variant<std::monostate, bool, std::int64_t, std::string>;
 
 // A field's value as a script gives it; converted to the field's own type where it is stored.
-using FieldValue = std::variant<bool, std::int64_t, double, std::string, StringMap, IntMap, StringList>;
+using FieldScalar = std::variant<bool, std::int64_t, double, std::string>;
+struct FieldMap : std::unordered_map<std::string, FieldScalar> {
+  using unordered_map::unordered_map;
+  FieldMap(const StringMap& map) : unordered_map(map.begin(), map.end()) {}
+  FieldMap(const IntMap& map) : unordered_map(map.begin(), map.end()) {}
+};
+struct FieldList : std::vector<FieldScalar> {
+  using vector::vector;
+  FieldList(const StringList& list) : vector(list.begin(), list.end()) {}
+};
+using FieldValue = std::variant<FieldScalar, FieldMap, FieldList>;
 using Fields = std::unordered_map<std::string, FieldValue>;
 
-// The call lines since the last TakeCalls, oldest first.
+// The call lines since the last TakeCalls, oldest first. The newest 100,000 are kept, fewer where they are long and
+// come to more than 64 MiB.
 VELORA_SDK_API std::vector<std::string> TakeCalls();
 
-// The log lines since the last TakeLog, each as it goes to stderr: "[VELORA] 0 text", "[VELORA] ERROR text".
+// The log lines since the last TakeLog, each as it goes to stderr: "[VELORA] 0 text", "[VELORA] ERROR text". As many
+// are kept as there are of call lines.
 VELORA_SDK_API std::vector<std::string> TakeLog();
 
 // Prints each call line to stderr as "[sdk] LINE" from now on, or no longer.
@@ -38,7 +50,8 @@ VELORA_SDK_API void SetLogToStderr(bool enabled);
 // What the operation `name` ("getChannel", "OrderInfo.New", "OrderInfo.get_aid", "OrderInfo.toString") answers from
 // now on: text or false for one that fills a string, a boolean or an integer for one that returns it. False for a
 // factory gives no record. An operation that is answered by an event takes the event's flag, code or order status from
-// it; false is a failure, and where a whole list, a text or a view is the answer, an empty or missing one.
+// it; false is a failure, and where a whole list, a text or a view is the answer, an empty or missing one. A name that
+// no operation has throws std::invalid_argument.
 VELORA_SDK_API void SetAnswer(const std::string& name, Answer answer);
 
 // Queues an event for the next SwapEvents. An empty reference is ignored.

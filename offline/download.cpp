@@ -14,6 +14,25 @@ using namespace offline;
 
 namespace {
 
+// Marks the service's own events, so that those that a player posts can be told from them.
+struct OwnEvent {
+  virtual ~OwnEvent() = default;
+};
+
+template <class Layout>
+struct Own final : Layout, OwnEvent {
+  using Layout::Layout;
+};
+
+template <class Kind, class... Values>
+std::shared_ptr<Event> MakeOwn(Values&&... values) {
+  auto event = std::make_shared<Own<typename Kind::Layout>>(Kind::kType);
+  SetPayload(*event, std::forward<Values>(values)...);
+  return event;
+}
+
+bool IsOwn(const Event& event) { return dynamic_cast<const OwnEvent*>(&event) != nullptr; }
+
 void ReplyIfEnabled(std::vector<std::shared_ptr<Event>> answers) {
   const bool enabled = LockedState()->downloadEvents;
   if (enabled) Reply(std::move(answers));
@@ -25,16 +44,17 @@ Verbatim Named(const SyncDownloadHandler* handler) { return {handler == nullptr 
 
 void init() {
   Call(__func__);
-  ReplyIfEnabled({MakeEvent<events::DownloadInited>()});
+  if (GiveFlag(__func__, true)) ReplyIfEnabled({MakeOwn<events::DownloadInited>()});
 }
 
 // A download command runs through at once; its text stands in every event.
 void extendFunc(const std::string& text) {
   Call(__func__, text);
-  std::vector<std::shared_ptr<Event>> answers = {MakeEvent<events::DownloadProgress>(text),
-                                                 MakeEvent<events::DownloadFinish>(text)};
+  if (!GiveFlag(__func__, true)) return;
+  std::vector<std::shared_ptr<Event>> answers = {MakeOwn<events::DownloadProgress>(text),
+                                                 MakeOwn<events::DownloadFinish>(text)};
   const bool second = LockedState()->downloadFinish2;
-  if (second) answers.push_back(MakeEvent<events::DownloadFinish2>(text));
+  if (second) answers.push_back(MakeOwn<events::DownloadFinish2>(text));
   ReplyIfEnabled(std::move(answers));
 }
 
@@ -46,7 +66,7 @@ void disableDownloadFinish2() {
 bool query(std::string& out) {
   Call(__func__);
   if (!GiveText(__func__, "{\"state\":\"idle\"}", out)) return false;
-  ReplyIfEnabled({MakeEvent<events::DownloadProgress>(out)});
+  ReplyIfEnabled({MakeOwn<events::DownloadProgress>(out)});
   return true;
 }
 
@@ -73,9 +93,11 @@ void removeSyncDownloadHandler(SyncDownloadHandler* handler) {
   std::erase(LockedState()->downloadHandlers, handler);
 }
 
+// Off, it takes back what is on its way.
 void enableAsyncEvent(bool enabled) {
   Call(__func__, enabled);
   LockedState()->downloadEvents = enabled;
+  if (!enabled) TakeBack(IsOwn);
 }
 
 }  // namespace tarn::velora::download

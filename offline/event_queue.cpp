@@ -100,6 +100,18 @@ void Post(std::shared_ptr<Event> event) {
   Enqueue(std::move(fresh));
 }
 
+void TakeBack(bool (*unwanted)(const Event& event)) {
+  const auto drop = [unwanted](std::vector<std::shared_ptr<Event>>& events) {
+    std::erase_if(events, [unwanted](const auto& event) { return unwanted(*event); });
+  };
+  Queue& queue = TheQueue();
+  std::unique_lock lock(queue.mutex);
+  queue.idle.wait(lock, [&] { return !queue.busy; });
+  drop(queue.events);
+  queue.hasEvents = !queue.events.empty();
+  for (Job& job : queue.jobs) drop(job.answers);
+}
+
 void ForgetEvents() {
   Queue& queue = TheQueue();
   std::list<Job> jobs;  // released when the lock is open again

@@ -58,6 +58,10 @@ std::shared_ptr<Event> MakeEvent(Values&&... values) {
 // events are queued. Either all of it is on its way, or this throws and nothing is.
 void Reply(std::vector<std::shared_ptr<Event>> answers, std::function<void()> effect = nullptr);
 
+// Drops the events for which `unwanted` holds and which SwapEvents has not given out: queued ones, and answers that
+// have yet to be queued.
+void TakeBack(bool (*unwanted)(const Event& event));
+
 // Drops answers that have not begun, waits for the one that has, and forgets the queued events.
 void ForgetEvents();
 

@@ -1,6 +1,7 @@
 // The conversions of field values.
 #include "offline/field_value.h"
 
+#include <cmath>
 #include <cstdio>
 #include <stdexcept>
 #include <type_traits>
@@ -13,55 +14,80 @@ namespace {
 constexpr double kTwoTo63 = 9223372036854775808.0;
 
 std::int64_t Whole(double number) {
-  if (number >= -kTwoTo63 && number < kTwoTo63) return static_cast<std::int64_t>(number);
-  throw std::invalid_argument("needs a number that fits 64 bits");
+  if (number >= -kTwoTo63 && number < kTwoTo63 && std::trunc(number) == number)
+    return static_cast<std::int64_t>(number);
+  throw std::invalid_argument("needs a whole number that fits 64 bits");
+}
+
+const FieldScalar& ScalarOf(const FieldValue& value, const char* need) {
+  if (const auto* scalar = std::get_if<FieldScalar>(&value)) return *scalar;
+  throw std::invalid_argument(need);
 }
 
 template <class Number>
 void StoreNumber(const FieldValue& value, Number& field) {
-  if (const auto* flag = std::get_if<bool>(&value)) {
+  constexpr const char* kNeed = "needs a number";
+  const FieldScalar& scalar = ScalarOf(value, kNeed);
+  if (const auto* flag = std::get_if<bool>(&scalar)) {
     field = static_cast<Number>(*flag ? 1 : 0);
-  } else if (const auto* integer = std::get_if<std::int64_t>(&value)) {
+  } else if (const auto* integer = std::get_if<std::int64_t>(&scalar)) {
     field = static_cast<Number>(*integer);
-  } else if (const auto* number = std::get_if<double>(&value)) {
+  } else if (const auto* number = std::get_if<double>(&scalar)) {
     if constexpr (std::is_integral_v<Number>) {
       field = static_cast<Number>(Whole(*number));
     } else {
       field = static_cast<Number>(*number);
     }
   } else {
-    throw std::invalid_argument("needs a number");
+    throw std::invalid_argument(kNeed);
   }
 }
 
-bool IsEmptyContainer(const FieldValue& value) {
-  return std::visit(
-      [](const auto& held) {
-        using Held = std::decay_t<decltype(held)>;
-        if constexpr (std::is_arithmetic_v<Held> || std::is_same_v<Held, std::string>) {
-          return false;
-        } else {
-          return held.empty();
-        }
-      },
-      value);
+// A float that looks like an integer gets a ".0", as in Lua.
+std::string TextOf(double number) {
+  char digits[32];
+  std::snprintf(digits, sizeof digits, "%.14g", number);
+  const std::string text = digits;
+  return text.find_first_not_of("-0123456789") == std::string::npos ? text + ".0" : text;
+}
+
+template <class Element>
+void StoreElement(const std::string& key, const FieldScalar& value, Element& element) {
+  try {
+    Store(value, element);
+  } catch (const std::invalid_argument& error) {
+    throw std::invalid_argument("at '" + key + "' " + error.what());
+  }
+}
+
+template <class Map>
+void StoreMap(const FieldValue& value, Map& field) {
+  Map filled;
+  if (const auto* map = std::get_if<FieldMap>(&value)) {
+    for (const auto& [key, element] : *map) StoreElement(key, element, filled[key]);
+  } else if (const auto* list = std::get_if<FieldList>(&value)) {
+    for (const FieldScalar& element : *list) {
+      const std::string key = std::to_string(filled.size() + 1);
+      StoreElement(key, element, filled[key]);
+    }
+  } else {
+    throw std::invalid_argument("needs a table");
+  }
+  field = std::move(filled);
 }
 
 }  // namespace
 
 void Store(const FieldValue& value, std::string& field) {
-  if (const auto* text = std::get_if<std::string>(&value)) {
+  const FieldScalar& scalar = ScalarOf(value, "needs a text");
+  if (const auto* text = std::get_if<std::string>(&scalar)) {
     field = *text;
-  } else if (const auto* flag = std::get_if<bool>(&value)) {
+  } else if (const auto* flag = std::get_if<bool>(&scalar)) {
     field = *flag ? "true" : "false";
-  } else if (const auto* integer = std::get_if<std::int64_t>(&value)) {
+  } else if (const auto* integer = std::get_if<std::int64_t>(&scalar)) {
     field = std::to_string(*integer);
-  } else if (const auto* number = std::get_if<double>(&value)) {
-    char digits[32];
-    std::snprintf(digits, sizeof digits, "%.14g", *number);
-    field = digits;
   } else {
-    throw std::invalid_argument("needs a text");
+    field = TextOf(std::get<double>(scalar));
   }
 }
 
@@ -81,40 +107,18 @@ void Store(const FieldValue& value, bool& field) {
   field = number != 0;
 }
 
-void Store(const FieldValue& value, StringMap& field) {
-  StringMap filled;
-  if (const auto* map = std::get_if<StringMap>(&value)) {
-    filled = *map;
-  } else if (const auto* numbers = std::get_if<IntMap>(&value)) {
-    for (const auto& [key, number] : *numbers) filled[key] = std::to_string(number);
-  } else if (const auto* list = std::get_if<StringList>(&value)) {
-    for (const std::string& text : *list) filled[std::to_string(filled.size() + 1)] = text;
-  } else {
-    throw std::invalid_argument("needs a map of texts");
-  }
-  field = std::move(filled);
-}
-
-void Store(const FieldValue& value, IntMap& field) {
-  if (const auto* numbers = std::get_if<IntMap>(&value)) {
-    IntMap filled = *numbers;
-    field = std::move(filled);
-  } else if (IsEmptyContainer(value)) {
-    field.clear();
-  } else {
-    throw std::invalid_argument("needs a map of integers");
-  }
-}
+void Store(const FieldValue& value, StringMap& field) { StoreMap(value, field); }
+void Store(const FieldValue& value, IntMap& field) { StoreMap(value, field); }
 
 void Store(const FieldValue& value, StringList& field) {
-  if (const auto* list = std::get_if<StringList>(&value)) {
-    StringList filled = *list;
-    field = std::move(filled);
-  } else if (IsEmptyContainer(value)) {
-    field.clear();
-  } else {
-    throw std::invalid_argument("needs a list of texts");
+  StringList filled;
+  if (const auto* list = std::get_if<FieldList>(&value)) {
+    for (const FieldScalar& element : *list)
+      StoreElement(std::to_string(filled.size() + 1), element, filled.emplace_back());
+  } else if (const auto* map = std::get_if<FieldMap>(&value); map == nullptr || !map->empty()) {
+    throw std::invalid_argument("needs a list");
   }
+  field = std::move(filled);
 }
 
 }  // namespace tarn::velora::offline

@@ -109,15 +109,16 @@ void zvGuestBind() {
   Reply({MakeEvent<events::LoginDone>(code)}, [code] { LockedState()->bound = code == kBindOk; });
 }
 
-// The manager view and the pause view close as soon as they open: there is nobody to look at them.
+// The manager view and the pause view close as soon as they open: there is nobody to look at them. Where the answer is
+// false they do not open.
 void zvOpenManager() {
   Call(__func__);
-  Reply({MakeEvent<events::CloseManagerView>()});
+  if (GiveFlag(__func__, true)) Reply({MakeEvent<events::CloseManagerView>()});
 }
 
 void zvOpenPauseView() {
   Call(__func__);
-  Reply({MakeEvent<events::ClosePauseView>(), MakeEvent<events::ContinueGame>()});
+  if (GiveFlag(__func__, true)) Reply({MakeEvent<events::ClosePauseView>(), MakeEvent<events::ContinueGame>()});
 }
 
 // The exit view's question is answered with yes.
@@ -277,7 +278,7 @@ void setCmdLineParameter(const char* text) {
   LockedState()->commandLine.swap(fresh);
 }
 
-// The pointer stays valid until the parameter is set again.
+// The pointer stays valid until the parameter is set or asked for again, or the runtime is reset.
 const char* getCmdLineParameter() {
   Call(__func__);
   std::optional<std::string> commandLine = LockedState()->commandLine;

@@ -75,6 +75,14 @@ class Record {
     return field;
   }
 
+  // A set answer that is no number leaves the field's value.
+  template <class Number>
+  Number ReadNumber(const char* operation, const Number& field) const {
+    const Number stored = Read(operation, field);
+    const std::optional<std::int64_t> given = GivenNumber(operation);
+    return given ? static_cast<Number>(*given) : stored;
+  }
+
   template <class Value>
   void Write(const char* operation, Value& field, Parameter<Value> value) {
     RunHook(operation);
@@ -132,20 +140,20 @@ std::shared_ptr<Derived> Produce(const char* operation, std::string madeWith) {
 // The getter of a field of each family, as record_fields.inc puts it into the class named RECORD_CLASS.
 #define READ_TEXT(name) \
   bool get_##name(std::string& out) override { return ReadText(RECORD_CLASS ".get_" #name, name##_, out); }
-#define READ_VALUE(name, family) \
-  families::family get_##name() override { return Read(RECORD_CLASS ".get_" #name, name##_); }
+#define READ_NUMBER(name, family) \
+  families::family get_##name() override { return ReadNumber(RECORD_CLASS ".get_" #name, name##_); }
 #define READ_CONTAINER(name, family) \
   void get_##name(families::family& out) override { out = Read(RECORD_CLASS ".get_" #name, name##_); }
 #define READ_RECORD_MAP(name) \
   bool get_##name(velora::StringMap& out) override { return ReadMap(RECORD_CLASS ".get_" #name, name##_, out); }
 
 #define GETTER_String(name) READ_TEXT(name)
-#define GETTER_Int(name) READ_VALUE(name, Int)
-#define GETTER_Int64(name) READ_VALUE(name, Int64)
-#define GETTER_Float(name) READ_VALUE(name, Float)
-#define GETTER_Double(name) READ_VALUE(name, Double)
-#define GETTER_IntAsNumber(name) READ_VALUE(name, IntAsNumber)
-#define GETTER_Bool(name) READ_VALUE(name, Bool)
+#define GETTER_Int(name) READ_NUMBER(name, Int)
+#define GETTER_Int64(name) READ_NUMBER(name, Int64)
+#define GETTER_Float(name) READ_NUMBER(name, Float)
+#define GETTER_Double(name) READ_NUMBER(name, Double)
+#define GETTER_IntAsNumber(name) READ_NUMBER(name, IntAsNumber)
+#define GETTER_Bool(name) READ_NUMBER(name, Bool)
 #define GETTER_StringMap(name) READ_CONTAINER(name, StringMap)
 #define GETTER_IntMap(name) READ_CONTAINER(name, IntMap)
 #define GETTER_StrictList(name) READ_CONTAINER(name, StrictList)

@@ -24,16 +24,20 @@ void ReplyOpened(const char* operation) {
   Reply({opened ? MakeEvent<events::ShowViewOpened>() : MakeEvent<events::ShowViewFailed>()});
 }
 
+void ReplyClosed(const char* operation) {
+  if (GiveFlag(operation, true)) Reply({MakeEvent<events::ShowViewClosed>()});
+}
+
 void ReplyQRCode(const char* operation, const std::string& path) {
   std::string file;
-  if (!GiveText(operation, path, file)) file.clear();
+  if (!GiveOwnText(operation, path, file)) file.clear();
   Reply({MakeEvent<events::CreateQRCodeDone>(std::move(file))});
 }
 
 // The scanner reads the very text that it was started with.
 void ReplyScan(const char* operation, const std::string& text) {
   std::string scanned;
-  GiveText(operation, text, scanned);
+  GiveOwnText(operation, text, scanned);
   const auto code = GiveCode(operation, kOk, kScanFailed);
   Reply({MakeEvent<events::CodeScannerFinish>(code, code == kOk ? std::move(scanned) : std::string())});
 }
@@ -157,12 +161,12 @@ void zvShowBoard(const std::string& first, const std::string& second, const std:
 
 void zvCloseWebView() {
   Call(__func__);
-  Reply({MakeEvent<events::ShowViewClosed>()});
+  ReplyClosed(__func__);
 }
 
 void zvCloseFlash() {
   Call(__func__);
-  Reply({MakeEvent<events::ShowViewClosed>()});
+  ReplyClosed(__func__);
 }
 
 // The reward is taken and the view closed at once.

@@ -109,7 +109,7 @@ void zvQueryAvailablesInvitees() {
 
 void zvQueryMyAccount() {
   Call(__func__);
-  Reply({MakeEvent<events::QueryMyAccountFinished>(AccountOf(kPeople[0]))});
+  Reply({MakeEvent<events::QueryMyAccountFinished>(GiveFlag(__func__, true) ? AccountOf(kPeople[0]) : nullptr)});
 }
 
 void zvQueryFriendListInGame() {

@@ -11,11 +11,7 @@
 #include <vector>
 
 #include "offline/control.h"
-#include "platform/account_info.h"
 #include "platform/binding_helpers.h"
-#include "platform/order_info.h"
-#include "platform/pad_record.h"
-#include "platform/sku_details_info.h"
 #include "player/arguments.h"
 #include "records/holder.h"
 
@@ -111,45 +107,43 @@ void ForEachPair(const Value& table, Visitor visit) {
   }
 }
 
-template <class Map>
-Map ReadMap(const Value& table) {
-  Map map;
-  ForEachPair(table, [&](const std::string& key, const Value& value) { Read(value, map[key]); });
-  return map;
-}
-
-// A table is a list where it has a first element, else a map of integers or of texts, as its values are.
-offline::FieldValue ReadContainer(const Value& table) {
-  const bool isList = lua_rawgeti(table.L, table.index, 1) != LUA_TNIL;
-  lua_pop(table.L, 1);
-  if (isList) {
-    StringList list;
-    Read(table, list);
-    return list;
-  }
-  bool hasIntegers = false;
-  ForEachPair(table, [&](const std::string&, const Value& value) { hasIntegers |= TypeOf(value) == LUA_TNUMBER; });
-  if (hasIntegers) return ReadMap<IntMap>(table);
-  return ReadMap<StringMap>(table);
-}
-
-offline::FieldValue ReadFieldValue(const Value& value) {
+void Read(const Value& value, offline::FieldScalar& field) {
   switch (TypeOf(value)) {
     case LUA_TBOOLEAN:
-      return lua_toboolean(value.L, value.index) != 0;
+      field = lua_toboolean(value.L, value.index) != 0;
+      break;
     case LUA_TNUMBER:
-      if (lua_isinteger(value.L, value.index)) return std::int64_t{lua_tointeger(value.L, value.index)};
-      return double{lua_tonumber(value.L, value.index)};
-    case LUA_TSTRING: {
-      std::string text;
-      Read(value, text);
-      return text;
-    }
-    case LUA_TTABLE:
-      return ReadContainer(value);
+      if (lua_isinteger(value.L, value.index)) {
+        field = std::int64_t{lua_tointeger(value.L, value.index)};
+      } else {
+        field = double{lua_tonumber(value.L, value.index)};
+      }
+      break;
+    case LUA_TSTRING:
+      Read(value, field.emplace<std::string>());
+      break;
     default:
-      FailType(value, "boolean, number, string or table");
+      FailType(value, "boolean, number or string");
   }
+}
+
+// A table is a list where it has a first element, else a map.
+offline::FieldValue ReadFieldValue(const Value& value) {
+  if (TypeOf(value) != LUA_TTABLE) {
+    offline::FieldScalar scalar;
+    Read(value, scalar);
+    return scalar;
+  }
+  const bool isList = lua_rawgeti(value.L, value.index, 1) != LUA_TNIL;
+  lua_pop(value.L, 1);
+  if (isList) {
+    offline::FieldList list;
+    Read(value, list);
+    return list;
+  }
+  offline::FieldMap map;
+  ForEachPair(value, [&](const std::string& key, const Value& element) { Read(element, map[key]); });
+  return map;
 }
 
 // What a script knows of a record class, and how the runtime makes one.

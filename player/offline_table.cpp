@@ -2,8 +2,10 @@
 #include "player/offline_table.h"
 
 #include <cstdint>
+#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "offline/control.h"
@@ -59,7 +61,12 @@ offline::Answer ReadAnswer(lua_State* L, int index) {
 // offline.answer(name, value): what an operation answers from now on.
 int Answer(lua_State* L) {
   const std::string name(CheckText(L, 1));
-  offline::SetAnswer(name, ReadAnswer(L, 2));
+  offline::Answer answer = ReadAnswer(L, 2);
+  try {
+    offline::SetAnswer(name, std::move(answer));
+  } catch (const std::invalid_argument& error) {
+    throw ArgumentError(1, error.what());
+  }
   return 0;
 }
 
@@ -79,14 +86,13 @@ struct DownloadArguments {
 DownloadArguments ReadDownloadArguments(lua_State* L) {
   DownloadArguments arguments;
   if (!lua_isnoneornil(L, 2)) arguments.text = CheckText(L, 2).data();
-  lua_Integer length = LUA_MAXINTEGER;  // of a null pointer nobody reads, whatever the count
-  if (!lua_isnoneornil(L, 3)) {
-    arguments.bytes = CheckText(L, 3).data();
-    length = static_cast<lua_Integer>(CheckText(L, 3).size());
-  }
-  const lua_Integer whole = arguments.bytes != nullptr ? length : 0;
-  const lua_Integer count = lua_isnoneornil(L, 4) ? whole : CheckInteger(L, 4);
-  if (count < 0 || count > length) throw ArgumentError(4, "count must lie between 0 and the number of bytes given");
+  const std::string_view bytes = lua_isnoneornil(L, 3) ? std::string_view() : CheckText(L, 3);
+  arguments.bytes = bytes.data();
+  const auto length = static_cast<lua_Integer>(bytes.size());
+  const lua_Integer count = lua_isnoneornil(L, 4) ? length : CheckInteger(L, 4);
+  // Of a null pointer nobody reads, whatever the count.
+  if (count < 0 || (arguments.bytes != nullptr && count > length))
+    throw ArgumentError(4, "count must lie between 0 and the number of bytes given");
   arguments.count = static_cast<std::uint64_t>(count);
   return arguments;
 }

@@ -1,0 +1,16 @@
+-- A handler switches the service's own queued events off, those on their way included; posted ones come all the same.
+for _, name in ipairs{"DownloadInited", "DownloadProgress", "DownloadFinish", "DownloadFinish2"} do
+  velora["setOn" .. name](function(...) print(name, ...) end)
+end
+
+-- Some of these are queued by now and some are not, as the runtime's thread has got on.
+for i = 1, 200 do velora.download.extendFunc("own " .. i) end
+velora.download.init()
+offline.post("DownloadProgress", "posted before")
+velora.download.setSyncDownloadHandler{onInited = print, onProgress = print, onFinish = print}
+velora.download.extendFunc("while it is off")
+velora.download.init()
+print(velora.download.query())
+offline.post("DownloadProgress", "posted after")
+velora.zvLogout()
+velora.setOnLogoutDone(function() player.quit() end)
