@@ -1,0 +1,72 @@
+// Measures each case on both sides. Times come from Google Benchmark, whose options this program takes. With the one
+// argument --instructions it runs each side once, to be watched by callgrind: a dump per side says what was executed.
+#include <benchmark/benchmark.h>
+#include <valgrind/callgrind.h>
+
+#include <cstring>
+#include <string>
+
+#include "bench/allocations.h"
+#include "bench/cases.h"
+
+namespace bench {
+namespace {
+
+std::string NameOf(const Case& measured, Side side) {
+  return std::string(measured.group) + "/" + measured.name + "/" + (side == Side::kModule ? "module" : "bare");
+}
+
+void Measure(benchmark::State& state, const Case& measured, Side side) {
+  const auto workload = measured.make(measured, side);
+  workload->Prepare();
+  workload->Run();  // caches are warm, strings are interned
+  std::int64_t allocations = 0;
+  for ([[maybe_unused]] auto _ : state) {
+    state.PauseTiming();
+    workload->Prepare();
+    const std::int64_t before = Allocations();
+    state.ResumeTiming();
+    workload->Run();
+    allocations += Allocations() - before;
+  }
+  const auto operations = static_cast<double>(state.iterations() * measured.operations);
+  state.counters["operations"] = operations / static_cast<double>(state.iterations());
+  state.counters["allocations"] = static_cast<double>(allocations) / operations;
+}
+
+void CountInstructions() {
+  for (const Case& measured : Cases()) {
+    for (const Side side : {Side::kModule, Side::kBare}) {
+      const auto workload = measured.make(measured, side);
+      workload->Prepare();
+      workload->Run();
+      workload->Prepare();
+      const std::string label = NameOf(measured, side) + "=" + std::to_string(measured.operations);
+      CALLGRIND_START_INSTRUMENTATION;
+      CALLGRIND_ZERO_STATS;
+      workload->Run();
+      CALLGRIND_DUMP_STATS_AT(label.c_str());
+      CALLGRIND_STOP_INSTRUMENTATION;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace bench
+
+int main(int argc, char** argv) {
+  using namespace bench;
+  if (argc == 2 && std::strcmp(argv[1], "--instructions") == 0) {
+    CountInstructions();
+    return 0;
+  }
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 64;
+  for (const Case& measured : Cases())
+    for (const Side side : {Side::kModule, Side::kBare})
+      benchmark::RegisterBenchmark(NameOf(measured, side).c_str(),
+                                   [&measured, side](benchmark::State& state) { Measure(state, measured, side); });
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+  return 0;
+}
