@@ -2,11 +2,13 @@
 #include "binding/boundary.h"
 
 #include <cstdio>
+#include <new>
 
 namespace luavelora {
 
-const char* ErrorText::Set(const char* text) {
-  std::snprintf(text_, sizeof text_, "%s", text);
+const char* ErrorText::Of(const std::exception& exception) {
+  if (dynamic_cast<const std::bad_alloc*>(&exception) != nullptr) return "not enough memory";
+  std::snprintf(text_, sizeof text_, "%s", exception.what());
   return text_;
 }
 

@@ -4,7 +4,6 @@
 
 #include <exception>
 #include <lua.hpp>
-#include <new>
 
 namespace luavelora {
 
@@ -32,12 +31,11 @@ class [[nodiscard]] Outcome {
 // A bad argument: no results, no error.
 inline Outcome Refusal() { return Outcome::Results(0); }
 
-inline constexpr const char* kNotEnoughMemory = "not enough memory";
-
 // A fixed place for an exception's text, so that nothing is raised while the exception is alive.
 class ErrorText {
  public:
-  const char* Set(const char* text);
+  // What the Lua error for `exception` says.
+  const char* Of(const std::exception& exception);
 
  private:
   char text_[200];
@@ -52,10 +50,8 @@ template <class Body>
 Outcome Guarded(lua_State* L, ErrorText& text, Body&& body) {
   try {
     return body(L);
-  } catch (const std::bad_alloc&) {
-    return Outcome::Error(kNotEnoughMemory);
   } catch (const std::exception& exception) {
-    return Outcome::Error(text.Set(exception.what()));
+    return Outcome::Error(text.Of(exception));
   }
 }
 
@@ -63,7 +59,7 @@ Outcome Guarded(lua_State* L, ErrorText& text, Body&& body) {
 template <Outcome (*body)(lua_State*)>
 int Entry(lua_State* L) {
   ErrorText text;
-  const Outcome outcome = Guarded(L, text, body);
+  const Outcome outcome = Guarded(L, text, [](lua_State* state) { return body(state); });  // known when compiling
   if (outcome.Failed()) [[unlikely]]
     Raise(L, outcome);
   return outcome.results();
