@@ -63,15 +63,14 @@ template <class Fill>
 Outcome TextResult(lua_State* L, Fill fill) {
   constexpr std::size_t kShort = 256;
   char shortText[kShort];
-  std::size_t size = 0;
   {
     std::string out;
     if (!fill(out)) return Outcome::Results(0);
-    size = std::char_traits<char>::length(out.c_str());
+    const std::size_t size = std::char_traits<char>::length(out.c_str()) + 1;
     if (size > kShort) return PushProtected(L, [&out](lua_State* state) { lua_pushstring(state, out.c_str()); });
     std::char_traits<char>::copy(shortText, out.c_str(), size);
   }
-  lua_pushlstring(L, shortText, size);
+  lua_pushstring(L, shortText);  // Lua remembers texts by address: the same one again costs no hashing
   return Outcome::Results(1);
 }
 
