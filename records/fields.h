@@ -74,11 +74,8 @@ struct String {
   // A value without text stores the empty string.
   template <auto set>
   static Outcome Set(lua_State* L) {
-    using Record = RecordOf<set>;
-    if (Self<Record>(L) == nullptr) return Refusal();
-    const char* text = TextArgument(L, 2);
-    // Reading a number's text may have run script code: the object may be finished by now.
-    auto* holder = Self<Record>(L);
+    const char* text = TextArgument(L, 2);  // may run script code, which may finish the object: so it comes first
+    auto* holder = Self<RecordOf<set>>(L);
     if (holder != nullptr) CallOnRecord<set>(*holder, std::string(text == nullptr ? "" : text));
     return Outcome::Results(0);
   }

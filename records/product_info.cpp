@@ -50,9 +50,7 @@ Outcome GetString(lua_State* L) {
 
 template <auto member>
 Outcome SetString(lua_State* L) {
-  if (Self<ProductInfo>(L) == nullptr) return Refusal();
-  const char* text = TextArgument(L, 2);
-  // Reading a number's text may have run script code: the object may be finished by now.
+  const char* text = TextArgument(L, 2);  // may run script code, which may finish the object: so it comes first
   if (auto* holder = Self<ProductInfo>(L)) (*holder->record).*member = text == nullptr ? "" : text;
   return Outcome::Results(0);
 }
