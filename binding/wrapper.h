@@ -76,7 +76,14 @@ inline Outcome GiveResult(lua_State* L, const char* text) {
 template <class View>
 inline constexpr bool kIsObject = std::is_pointer_v<View> && !std::is_same_v<View, const char*>;
 
-// Tests the arguments, reads them, and calls `use(views...)` with the views of all parameters.
+template <class View>
+bool IsMissing(const View& view) {
+  if constexpr (kIsObject<View>) return view == nullptr;
+  return false;
+}
+
+// Tests the arguments, reads them, and calls `use(views...)` with the views of all parameters. An object is tested by
+// reading it.
 template <class... Parameters, class Use>
 Outcome WithArguments(lua_State* L, Use use) {
   static_assert(sizeof...(Parameters) < 2 || !(kIsObject<typename Parameter<Parameters>::View> || ...),
@@ -85,6 +92,7 @@ Outcome WithArguments(lua_State* L, Use use) {
     if (!(Parameter<Parameters>::Test(L, static_cast<int>(i) + 1) && ...)) return Refusal();
     const std::tuple<typename Parameter<Parameters>::View...> views{
         Parameter<Parameters>::Read(L, static_cast<int>(i) + 1)...};
+    if ((IsMissing(std::get<i>(views)) || ...)) return Refusal();
     return use(std::get<i>(views)...);
   }
   (std::index_sequence_for<Parameters...>());

@@ -25,8 +25,8 @@ class RecordArgument {
 template <class Record>
 struct Parameter<const std::shared_ptr<Record>&> {
   using View = HolderOf<Record>*;
-  static bool Test(lua_State* L, int index) { return Self<Record>(L, index) != nullptr; }
-  static View Read(lua_State* L, int index) { return HolderAt<HolderOf<Record>>(L, index); }
+  static bool Test(lua_State*, int) { return true; }
+  static View Read(lua_State* L, int index) { return Self<Record>(L, index); }
   static RecordArgument<Record> Make(View view) { return RecordArgument<Record>(*view); }
 };
 
