@@ -1,6 +1,7 @@
 // Lists and maps between Lua tables and the SDK's containers.
 #include "binding/conversions.h"
 
+#include <algorithm>
 #include <clocale>
 #include <cstdio>
 #include <cstring>
@@ -13,15 +14,7 @@ using tarn::velora::IntMap;
 using tarn::velora::StringList;
 using tarn::velora::StringMap;
 
-const char* ValueText::Get(lua_State* L, int index) {
-  switch (lua_type(L, index)) {
-    case LUA_TSTRING:
-      return lua_tostring(L, index);
-    case LUA_TNUMBER:
-      break;
-    default:
-      return nullptr;
-  }
+const char* ValueText::FormatNumber(lua_State* L, int index) {
   if (lua_isinteger(L, index)) {
     lua_integer2str(number_, sizeof number_, lua_tointeger(L, index));
     return number_;
@@ -44,10 +37,11 @@ const char* ClaimedLength(lua_State* L, int index, std::int32_t& length) {
 
 StringList ReadStringList(lua_State* L, int index, std::int32_t length) {
   StringList list;
+  list.reserve(std::min(static_cast<std::size_t>(length), lua_rawlen(L, index)));
   ValueText text;
   for (std::int32_t k = 1; k <= length; ++k) {
-    lua_rawgeti(L, index, k);
-    if (const char* element = text.Get(L, -1)) list.emplace_back(element);
+    const int type = lua_rawgeti(L, index, k);
+    if (const char* element = text.Get(L, -1, type)) list.emplace_back(element);
     lua_pop(L, 1);
   }
   return list;
@@ -58,10 +52,11 @@ const char* ReadStrictStringList(lua_State* L, int index, StringList& list, cons
   const std::int32_t length = GetLuaTableLen(L);
   lua_pop(L, 1);
   if (length > kMaxListLength) return kListTooLong;
+  list.reserve(static_cast<std::size_t>(std::max(length, 0)));
   ValueText text;
   for (std::int32_t k = 1; k <= length; ++k) {
-    lua_rawgeti(L, index, k);
-    const char* element = text.Get(L, -1);
+    const int type = lua_rawgeti(L, index, k);
+    const char* element = text.Get(L, -1, type);
     if (element == nullptr) return error;
     list.emplace_back(element);
     lua_pop(L, 1);

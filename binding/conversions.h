@@ -22,9 +22,16 @@ inline const char* TextArgument(lua_State* L, int index) { return lua_tolstring(
 class ValueText {
  public:
   // Null where the value has no text. Valid while the value stays where it is and this object lives.
-  const char* Get(lua_State* L, int index);
+  const char* Get(lua_State* L, int index) { return Get(L, index, lua_type(L, index)); }
+
+  // The same where the value's type is known.
+  const char* Get(lua_State* L, int index, int type) {
+    return type == LUA_TSTRING ? lua_tostring(L, index) : type == LUA_TNUMBER ? FormatNumber(L, index) : nullptr;
+  }
 
  private:
+  const char* FormatNumber(lua_State* L, int index);
+
   char number_[64];  // Lua's own bound on a number's text is 50
 };
 
