@@ -25,7 +25,7 @@ void* FromUserType(lua_State* L, std::int32_t index) { return *static_cast<void*
 bool CheckMetaTableInUserType(lua_State* L, std::int32_t index, const char* name) {
   if (lua_type(L, index) != LUA_TUSERDATA || lua_getmetatable(L, index) == 0) return false;
   lua_getfield(L, LUA_REGISTRYINDEX, name);
-  const bool same = lua_rawequal(L, -1, -2) != 0;
+  const bool same = lua_topointer(L, -1) == lua_topointer(L, -2);
   lua_pop(L, 2);
   return same;
 }
@@ -51,7 +51,7 @@ void InitUserTypeMetaTable(lua_State* L, const char* name) {
 void GetSdkCallbackTable(lua_State* L, const char* name) {
   luaL_getsubtable(L, LUA_REGISTRYINDEX, kCallbackTables);
   luaL_getsubtable(L, -1, name);
-  lua_remove(L, -2);
+  lua_replace(L, -2);
 }
 
 std::int32_t GetLuaTableLen(lua_State* L) { return static_cast<std::int32_t>(lua_rawlen(L, -1)); }
