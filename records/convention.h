@@ -71,16 +71,24 @@ class RecordPusher {
     if (fresh_ == nullptr || state_ == nullptr || state_->closed) return PushNil(L);
     ToUserType(L, fresh_.get(), ClassOf<Record>::kMetatable);
     // Making it may have run script code, and so the closing.
-    if (state_->closed || lua_getmetatable(L, -1) == 0) {
+    if (state_->closed || !IsRegistered(L, ClassOf<Record>::kMetatable)) {
       *static_cast<void**>(lua_touserdata(L, -1)) = nullptr;
       lua_pop(L, 1);
       return PushNil(L);
     }
-    lua_pop(L, 1);
     state_->Add(*fresh_.release());
   }
 
  private:
+  // Whether the userdata on top got the metatable of its class. What is registered once stays until the closing.
+  bool IsRegistered(lua_State* L, const char* metatable) {
+    if (metatable == registered_) return true;
+    if (lua_getmetatable(L, -1) == 0) return false;
+    lua_pop(L, 1);
+    registered_ = metatable;
+    return true;
+  }
+
   void PushNil(lua_State* L) {
     fresh_ = nullptr;
     lua_pushnil(L);
@@ -88,6 +96,7 @@ class RecordPusher {
 
   FreshHolder fresh_;
   StateRecord* state_ = nullptr;
+  const char* registered_ = nullptr;
 };
 
 // Pushes a new table with a userdata for each record, nil for an empty reference. May raise.
