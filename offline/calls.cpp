@@ -1,10 +1,10 @@
 // Call lines, set answers and the call hook.
 #include "offline/calls.h"
 
-#include <algorithm>
 #include <atomic>
 #include <cstdio>
 #include <functional>
+#include <iterator>
 #include <map>
 #include <stdexcept>
 
@@ -86,13 +86,13 @@ void LineBuffer::Add(std::string line) {
 }
 
 std::vector<std::string> LineBuffer::Take() {
-  std::vector<std::string> taken;
-  std::lock_guard lock(mutex_);
-  taken.reserve(lines_.size());
-  std::move(lines_.begin(), lines_.end(), std::back_inserter(taken));
-  lines_.clear();
-  bytes_ = 0;
-  return taken;
+  std::deque<std::string> lines;
+  {
+    std::lock_guard lock(mutex_);
+    lines.swap(lines_);
+    bytes_ = 0;
+  }
+  return {std::make_move_iterator(lines.begin()), std::make_move_iterator(lines.end())};
 }
 
 Quiet::Quiet() { ++quietDepth; }
