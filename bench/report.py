@@ -13,7 +13,7 @@ import statistics
 import subprocess
 import sys
 
-REPETITIONS = 9
+REPETITIONS = 21
 
 # What a case may cost at most, in lower bounds. A case without a row has no target.
 TARGETS = {
@@ -45,7 +45,7 @@ def measure_times(program, folder):
     out = folder / "times.json"
     subprocess.run(
         [program, f"--benchmark_repetitions={REPETITIONS}", "--benchmark_enable_random_interleaving=true",
-         "--benchmark_min_time=0.05", f"--benchmark_out={out}", "--benchmark_out_format=json"],
+         "--benchmark_min_time=0.03", f"--benchmark_out={out}", "--benchmark_out_format=json"],
         check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     times, allocations = {}, {}
     for run in json.loads(out.read_text())["benchmarks"]:

@@ -36,7 +36,7 @@ void StateRecord::ReleaseAll() {
   while (first != nullptr) {
     Owned& owned = *first;
     owned.Unlink();  // it may outlive its release
-    owned.release_(owned);
+    owned.Release();
   }
 }
 

@@ -7,25 +7,53 @@
 
 namespace luavelora {
 
-// Something that a userdata of one Lua state owns. Touched on the thread of Lua only.
+// Something that a userdata of one Lua state owns. Touched on the thread of Lua only. While a Pin on it lives, it can
+// be released, by a `__gc` that a script calls by hand or by the closing, and is freed when the last Pin goes.
 class Owned {
  public:
   Owned(const Owned&) = delete;
   Owned& operator=(const Owned&) = delete;
 
+  // Frees the object, now or when its last Pin goes. Runs no Lua.
+  void Release() {
+    released_ = true;
+    FreeIfDone();
+  }
+
  protected:
-  // `release` gives the object back; it is called when the state closes and may leave that to somebody who still works
-  // with the object. It runs no Lua.
-  explicit Owned(void (*release)(Owned&)) : release_(release) {}
+  // `destroy` deletes the object as what it is.
+  explicit Owned(void (*destroy)(Owned&)) : destroy_(destroy) {}
   ~Owned() { Unlink(); }
 
  private:
+  friend class Pin;
   friend struct StateRecord;
+  void FreeIfDone() {
+    if (released_ && pins_ == 0) destroy_(*this);
+  }
   void Unlink();
 
-  void (*release_)(Owned&);
+  void (*destroy_)(Owned&);
   Owned* next_ = nullptr;
   Owned** link_ = nullptr;  // what points here
+  unsigned pins_ = 0;
+  bool released_ = false;
+};
+
+// Keeps an object alive while the SDK works with it: the SDK may call back into scripts, and those may call `__gc` on
+// the very object in hand. Not to be alive across a Lua call that can raise.
+class Pin {
+ public:
+  explicit Pin(Owned& owned) : owned_(owned) { ++owned_.pins_; }
+  Pin(const Pin&) = delete;
+  Pin& operator=(const Pin&) = delete;
+  ~Pin() {
+    --owned_.pins_;
+    owned_.FreeIfDone();
+  }
+
+ private:
+  Owned& owned_;
 };
 
 // One per Lua state, in a userdata that is finalised after all that were made later.

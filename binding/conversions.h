@@ -2,7 +2,11 @@
 // the comment says so, so containers may be owned meanwhile; a container is always built aside and complete.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <memory>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -64,20 +68,41 @@ void PushStringList(lua_State* L, const tarn::velora::StringList& list);
 void PushStringMap(lua_State* L, const tarn::velora::StringMap& map);
 void PushIntMap(lua_State* L, const tarn::velora::IntMap& map);
 
+// Whether `text` lies inside the string object, which then owns no memory.
+inline bool LiesInside(const std::string& text) {
+#if defined(_ITERATOR_DEBUG_LEVEL) && _ITERATOR_DEBUG_LEVEL != 0
+  return false;  // Visual C++'s debug strings own a block for their iterators
+#else
+  const auto* object = reinterpret_cast<const char*>(&text);
+  return !std::less<>()(text.data(), object) && std::less<>()(text.data(), object + sizeof text);
+#endif
+}
+
+struct DestroyString {
+  void operator()(std::string* text) const { std::destroy_at(text); }
+};
+
 // Gives a text to Lua as the one result of a function. `fill(out)` fills an empty string and tells whether there is a
-// text to give; without one there is no result. The string is gone, or the push protected, when Lua allocates.
+// text to give; without one there is no result. A text that owns memory is copied aside, or pushed in protected mode.
+// Lua remembers texts by address: the same one again costs no hashing.
 template <class Fill>
 Outcome TextResult(lua_State* L, Fill fill) {
+  alignas(std::string) std::byte place[sizeof(std::string)];  // no destructor runs over it where Lua raises
   constexpr std::size_t kShort = 256;
-  char shortText[kShort];
+  char copy[kShort];
+  const char* text = copy;
   {
-    std::string out;
-    if (!fill(out)) return Outcome::Results(0);
-    const std::size_t size = std::char_traits<char>::length(out.c_str()) + 1;
-    if (size > kShort) return PushProtected(L, [&out](lua_State* state) { lua_pushstring(state, out.c_str()); });
-    std::char_traits<char>::copy(shortText, out.c_str(), size);
+    std::unique_ptr<std::string, DestroyString> out(new (place) std::string);
+    if (!fill(*out)) return Outcome::Results(0);
+    if (LiesInside(*out)) {
+      text = out.release()->c_str();
+    } else {
+      const std::size_t size = std::char_traits<char>::length(out->c_str()) + 1;
+      if (size > kShort) return PushProtected(L, [&out](lua_State* state) { lua_pushstring(state, out->c_str()); });
+      std::char_traits<char>::copy(copy, out->c_str(), size);
+    }
   }
-  lua_pushstring(L, shortText);  // Lua remembers texts by address: the same one again costs no hashing
+  lua_pushstring(L, text);
   return Outcome::Results(1);
 }
 

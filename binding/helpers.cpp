@@ -23,11 +23,7 @@ void ToUserType(lua_State* L, void* pointer, const char* name) {
 void* FromUserType(lua_State* L, std::int32_t index) { return *static_cast<void**>(lua_touserdata(L, index)); }
 
 bool CheckMetaTableInUserType(lua_State* L, std::int32_t index, const char* name) {
-  if (lua_type(L, index) != LUA_TUSERDATA || lua_getmetatable(L, index) == 0) return false;
-  lua_getfield(L, LUA_REGISTRYINDEX, name);
-  const bool same = lua_topointer(L, -1) == lua_topointer(L, -2);
-  lua_pop(L, 2);
-  return same;
+  return luaL_testudata(L, index, name) != nullptr;
 }
 
 void InitUserTypeMetaTable(lua_State* L, const char* name) {

@@ -137,7 +137,7 @@ Outcome NewWithOptionalText(lua_State* L, Give give) {
 // `__gc`: detaches the holder from its userdata, so that whatever comes later meets a wrong self, and frees it.
 template <class Record>
 Outcome Collect(lua_State* L) {
-  if (Holder* holder = Self<Record>(L)) {
+  if (auto* holder = Self<Record>(L)) {
     *static_cast<void**>(lua_touserdata(L, 1)) = nullptr;
     holder->Release();
   }

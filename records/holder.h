@@ -11,67 +11,24 @@
 
 namespace luavelora {
 
-// What `__gc` needs of every holder. While a Pin on it lives, a `__gc` that a script calls by hand detaches the
-// holder from its userdata at once but leaves freeing it to the last Pin.
-class Holder : public Owned {
- public:
-  // Frees the holder, now or when its last Pin goes.
-  void Release() {
-    released_ = true;
-    FreeIfDone();
-  }
-
- protected:
-  // `destroy` deletes the holder as what it is.
-  explicit Holder(void (*destroy)(Holder*))
-      : Owned([](Owned& owned) { static_cast<Holder&>(owned).Release(); }), destroy_(destroy) {}
-  ~Holder() = default;
-
- private:
-  friend class Pin;
-  void FreeIfDone() {
-    if (released_ && pins_ == 0) destroy_(this);
-  }
-
-  void (*destroy_)(Holder*);
-  unsigned pins_ = 0;
-  bool released_ = false;
-};
-
 // Deletes a holder of type `HolderType` through its base.
 template <class HolderType>
-void DestroyAs(Holder* holder) {
-  delete static_cast<HolderType*>(holder);
+void DestroyAs(Owned& holder) {
+  delete static_cast<HolderType*>(&holder);
 }
 
 // Owns a holder that no userdata carries yet.
 struct ReleaseHolder {
-  void operator()(Holder* holder) const { holder->Release(); }
+  void operator()(Owned* holder) const { holder->Release(); }
 };
-using FreshHolder = std::unique_ptr<Holder, ReleaseHolder>;
-
-// Keeps a holder alive while the SDK works on its record: the SDK may call back into scripts, and those may call
-// `__gc` on the very object in hand. Not to be alive across a Lua call that can raise.
-class Pin {
- public:
-  explicit Pin(Holder& holder) : holder_(holder) { ++holder_.pins_; }
-  Pin(const Pin&) = delete;
-  Pin& operator=(const Pin&) = delete;
-  ~Pin() {
-    --holder_.pins_;
-    holder_.FreeIfDone();
-  }
-
- private:
-  Holder& holder_;
-};
+using FreshHolder = std::unique_ptr<Owned, ReleaseHolder>;
 
 // One owner of a record that the SDK may own too.
 template <class Record>
-struct SharedRecordHolder : Holder {
+struct SharedRecordHolder : Owned {
   explicit SharedRecordHolder(const std::shared_ptr<Record>& reference,
-                              void (*destroy)(Holder*) = DestroyAs<SharedRecordHolder>)
-      : Holder(destroy), record(std::make_unique<std::shared_ptr<Record>>(reference)) {}
+                              void (*destroy)(Owned&) = DestroyAs<SharedRecordHolder>)
+      : Owned(destroy), record(std::make_unique<std::shared_ptr<Record>>(reference)) {}
 
   std::unique_ptr<std::shared_ptr<Record>> record;
 };
@@ -97,8 +54,8 @@ struct ShareInfoHolder : SharedRecordHolder<tarn::velora::ShareInfo> {
 };
 
 // A private copy of a product, and the side maps of its three map fields.
-struct ProductInfoHolder : Holder {
-  ProductInfoHolder() : Holder(DestroyAs<ProductInfoHolder>) {}
+struct ProductInfoHolder : Owned {
+  ProductInfoHolder() : Owned(DestroyAs<ProductInfoHolder>) {}
   ~ProductInfoHolder() {  // the record goes first, then the maps in their order
     record.reset();
     m_sdk_pids.reset();
@@ -114,7 +71,7 @@ struct ProductInfoHolder : Holder {
 // The holder of the userdata at `index`, whose class must just have been tested; null once `__gc` has run.
 template <class HolderType>
 HolderType* HolderAt(lua_State* L, int index) {
-  return static_cast<HolderType*>(static_cast<Holder*>(FromUserType(L, index)));
+  return static_cast<HolderType*>(static_cast<Owned*>(FromUserType(L, index)));
 }
 
 }  // namespace luavelora
