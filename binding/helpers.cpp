@@ -1,9 +1,7 @@
-// The six helpers. Metatables stand in the registry under their names, callback tables in one registry table.
+// The six helpers. Metatables and callback tables stand in the registry, each under its name.
 #include "platform/binding_helpers.h"
 
 namespace {
-
-constexpr const char* kCallbackTables = "velora.callbackTables";
 
 // Sets `metatable[key]`, for the metatable on top of the stack, to the class table's raw entry under the same key.
 void CopyFromClass(lua_State* L, int classTable, const char* key) {
@@ -23,7 +21,11 @@ void ToUserType(lua_State* L, void* pointer, const char* name) {
 void* FromUserType(lua_State* L, std::int32_t index) { return *static_cast<void**>(lua_touserdata(L, index)); }
 
 bool CheckMetaTableInUserType(lua_State* L, std::int32_t index, const char* name) {
-  return luaL_testudata(L, index, name) != nullptr;
+  if (lua_type(L, index) != LUA_TUSERDATA || lua_getmetatable(L, index) == 0) return false;
+  luaL_getmetatable(L, name);
+  const bool same = lua_rawequal(L, -1, -2) != 0;
+  lua_pop(L, 2);
+  return same;
 }
 
 void InitUserTypeMetaTable(lua_State* L, const char* name) {
@@ -44,10 +46,6 @@ void InitUserTypeMetaTable(lua_State* L, const char* name) {
   lua_setfield(L, LUA_REGISTRYINDEX, name);
 }
 
-void GetSdkCallbackTable(lua_State* L, const char* name) {
-  luaL_getsubtable(L, LUA_REGISTRYINDEX, kCallbackTables);
-  luaL_getsubtable(L, -1, name);
-  lua_replace(L, -2);
-}
+void GetSdkCallbackTable(lua_State* L, const char* name) { luaL_getsubtable(L, LUA_REGISTRYINDEX, name); }
 
 std::int32_t GetLuaTableLen(lua_State* L) { return static_cast<std::int32_t>(lua_rawlen(L, -1)); }

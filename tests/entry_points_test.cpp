@@ -151,7 +151,9 @@ TEST_F(EntryPoints, HelpersKeepTheirContract) {
     EXPECT_FALSE(CheckMetaTableInUserType(L, -1, "OtherClass")) << value;
     lua_pop(L, 1);
   }
+  // All light userdata share one metatable, which the debug library can set.
   lua_pushlightuserdata(L, &collected);
+  luaL_setmetatable(L, "TestClass");
   EXPECT_FALSE(CheckMetaTableInUserType(L, -1, "TestClass"));
   EXPECT_FALSE(CheckMetaTableInUserType(L, lua_gettop(L) + 1, "TestClass"));
   lua_settop(L, 0);
