@@ -1,4 +1,4 @@
-// The wrappers: which SDK call each makes for good arguments, and that bad ones make none.
+// The wrappers' results, and what no table of argument kinds can tell: options, lists, records, optional arguments.
 #include <gtest/gtest.h>
 
 #include "tests/harness.h"
@@ -27,51 +27,6 @@ class Wrappers : public VeloraTest {
 
   Host host;
 };
-
-// Values that are neither text nor number.
-const char* const kNoTexts[] = {"", "nil", "true", "{}", "print", "velora.PadEvent", "coroutine.create(print)"};
-
-TEST_F(Wrappers, TriggersReadNoArgument) {
-  for (const char* name : {"zvInit",
-                           "zvLogin",
-                           "zvLogout",
-                           "zvSwitchAccount",
-                           "zvOpenManager",
-                           "zvGameLoginSuccess",
-                           "zvUpLoadUserInfo",
-                           "zvDoSdkRealNameRegister",
-                           "zvGuestBind",
-                           "exitApp",
-                           "zvOpenExitView",
-                           "zvOpenPauseView",
-                           "zvVerifyOrder",
-                           "zvPrePay",
-                           "zvQueryInventory",
-                           "zvQueryFriendList",
-                           "zvQueryAvailablesInvitees",
-                           "zvQueryMyAccount",
-                           "zvQueryFriendListInGame",
-                           "zvQueryInviterList",
-                           "zvIsDarenUpdated",
-                           "zvMoreGame",
-                           "zvDisplayAchievement",
-                           "zvOpenNearby",
-                           "zvGetUsePushNotification",
-                           "zvConnectToChannel",
-                           "zvDisConnectFromChannel",
-                           "zvShowConversation",
-                           "zvShowFAQs",
-                           "zvCCStartService",
-                           "zvCCStopService",
-                           "zvFlushCustomEvents",
-                           "zvGetAnnouncementInfo",
-                           "zvCloseWebView",
-                           "zvCloseFlash",
-                           "zvOpenVespera"}) {
-    Expect(name, "", "");
-    Expect(name, "1, {}, nil", "");
-  }
-}
 
 TEST_F(Wrappers, QueriesGiveWhatTheSdkAnswers) {
   for (const char* name :
@@ -103,69 +58,24 @@ TEST_F(Wrappers, QueriesGiveWhatTheSdkAnswers) {
   }
 }
 
-TEST_F(Wrappers, OneTextIsReadByConversionAlone) {
-  for (const char* name :
-       {"zvAntiAddiction", "zvExtendFunc", "zvvGenericFunctionCall", "zvCallbackSuccess", "zvCallbackFail", "zvJFLog",
-        "zvRemoveCheckedOrders", "zvApplyFriend", "zvDisplayLeaderboard", "zvShowWeb", "zvOpenWebView",
-        "zvCollectEvent", "zvSendLocalNotification", "zvSetZone", "zvSetUserIdentifier", "zvScannerQRCode"}) {
-    Expect(name, "'text'", "\"text\"");
-    Expect(name, "12, 'more'", "\"12\"");
-    Expect(name, "'cut\\0here'", "\"cut\"");
-    for (const char* bad : kNoTexts) Expect(name, bad, nullptr);
-  }
+TEST_F(Wrappers, QueriesAboutSomethingGiveWhatTheSdkAnswers) {
   for (const char* name : {"getUserInfo", "getSDKVersion", "getFFChannelByPid"}) {
     offline::SetAnswer(name, std::string("value"));
     Expect(name, "1.5", "\"1.5\"", "\"value\"");
     offline::SetAnswer(name, false);
     Expect(name, "'key'", "\"key\"");
-    for (const char* bad : kNoTexts) Expect(name, bad, nullptr);
   }
   for (const char* name : {"isBinded", "zvHasPlatform", "hasFeature"}) {
     for (const bool answer : {false, true}) {
       offline::SetAnswer(name, answer);
       Expect(name, "'key'", "\"key\"", answer ? "true" : "false");
     }
-    for (const char* bad : kNoTexts) Expect(name, bad, nullptr, name == std::string("hasFeature") ? "false" : "");
+    Expect(name, "{}", nullptr, name == std::string("hasFeature") ? "false" : "");
   }
   offline::SetAnswer("DRPF", std::int64_t{-1});
   Expect("DRPF", "42", "\"42\"", "-1");
-  for (const char* bad : kNoTexts) Expect("DRPF", bad, nullptr);
-}
-
-TEST_F(Wrappers, SeveralArgumentsAreEachTested) {
-  for (const char* name : {"setUserInfo", "setPropStr", "zvUpdateApi", "zvInviteFriendList", "zvTrackCustomEvent"}) {
-    Expect(name, "'a', 'b'", "\"a\", \"b\"");
-    Expect(name, "1, 2.0, 3", "\"1\", \"2.0\"");
-    for (const char* bad : {"", "'a'", "'a', nil", "nil, 'b'", "'a', {}", "true, 'b'"}) Expect(name, bad, nullptr);
-  }
-  for (const char* name : {"setPropInt", "zvUpdateAchievement", "zvUpdateEvent", "zvPresentQRCodeScanner"}) {
-    Expect(name, "'a', -5", "\"a\", -5");
-    Expect(name, "'a', 4294967297", "\"a\", 1");
-    Expect(name, "'a', math.mininteger", "\"a\", 0");
-    for (const char* bad : {"", "'a'", "'a', 3.0", "'a', '3'", "{}, 3", "'a', nil"}) Expect(name, bad, nullptr);
-  }
   offline::SetAnswer("getPropInt", std::int64_t{7});
   Expect("getPropInt", "'a', 5", "\"a\", 5", "7");
-  Expect("getPropInt", "'a', 5.0", nullptr);
-  Expect("getPropInt", "'a'", nullptr);
-  for (const char* name : {"zvCancelLocalNotification", "zvSelectChannelOption", "zvVerifyMobile"}) {
-    Expect(name, "-2147483649", "2147483647");
-    for (const char* bad : {"", "1.0", "'1'", "nil"}) Expect(name, bad, nullptr);
-  }
-  for (const char* name : {"zvSetUsePushNotification", "zvGetNotice", "zvShowCompactView"}) {
-    Expect(name, "true", "true");
-    Expect(name, "false, 1", "false");
-    for (const char* bad : {"", "1", "nil", "'true'"}) Expect(name, bad, nullptr);
-  }
-  Expect("setJFSauthWithKey", "'k', 1, false", "\"k\", \"1\", false");
-  for (const char* bad : {"'k', 'v'", "'k', 'v', 1", "'k', nil, true"}) Expect("setJFSauthWithKey", bad, nullptr);
-  Expect("zvSendProfile", "'p', true", "\"p\", true");
-  Expect("zvSendProfile", "'p', 1", nullptr);
-  Expect("zvShowBoard", "1, 2, '3'", "\"1\", \"2\", \"3\"");
-  Expect("zvShowBoard", "1, 2", nullptr);
-  Expect("zvUpdateRank", "'r', '99.5'", "\"r\", 99.5");
-  Expect("zvUpdateRank", "'r', 0.1", "\"r\", 0.1");
-  for (const char* bad : {"'r'", "'r', {}", "'r', 'fast'", "nil, 1"}) Expect("zvUpdateRank", bad, nullptr);
 }
 
 TEST_F(Wrappers, PropertiesHaveAFormWithASecondString) {
@@ -173,8 +83,6 @@ TEST_F(Wrappers, PropertiesHaveAFormWithASecondString) {
   Expect("getPropStr", "'name'", "\"name\"", "\"value\"");
   Expect("getPropStr", "'name', true", "\"name\"", "\"value\"");
   Expect("getPropStr", "'name', 5", "\"name\", \"5\"", "\"value\"");
-  for (const char* bad : kNoTexts) Expect("getPropStr", bad, nullptr);
-  Expect("setPropStr", "'x', 'y'", "\"x\", \"y\"");
 }
 
 TEST_F(Wrappers, OptionsPassThePointerThatTheirTypeAsksFor) {
@@ -184,7 +92,6 @@ TEST_F(Wrappers, OptionsPassThePointerThatTheirTypeAsksFor) {
   Expect("zvLumoSetOption", "'text', 'cut\\0here'", "\"text\", \"cut\"");
   Expect("zvLumoSetOption", "'bool.on', false", "\"bool.on\", false");
   Expect("zvLumoSetOption", "'bool.on', true", "\"bool.on\", true");
-  for (const char* bad : {"", "'text'", "{}, 1", "nil, 'x'"}) Expect("zvLumoSetOption", bad, nullptr);
   for (const char* bad : {"'text', nil", "'text', {}", "'text', print"})
     Expect("zvLumoSetOption", bad, nullptr, "error: test:1: zvLumoSetOption: unsupport value type.");
 }
@@ -213,10 +120,8 @@ TEST_F(Wrappers, ListsAreReadAndTheirErrorsCarryThePosition) {
   Expect("zvDisplayQuests", "", nullptr, "error: test:1: ptrmust be table");
   Expect("zvSendPushNotification", "'t', {'a', 5}", "\"t\", {\"a\", \"5\"}");
   Expect("zvSendPushNotification", "'t', {}", "\"t\", {}");
-  for (const char* bad : {"'t'", "'t', 'a'", "{}, {}"}) Expect("zvSendPushNotification", bad, nullptr);
   Expect("zvQuerySkuDetails", "'t', {'a', 5}", "\"t\", {\"a\", \"5\"}");
   Expect("zvQuerySkuDetails", "'t', {}", "\"t\", {}");
-  for (const char* bad : {"'t'", "'t', 'a'", "nil, {}"}) Expect("zvQuerySkuDetails", bad, nullptr);
   for (const char* bad : {"'t', {'a', {}}", "'t', {true}", "'t', {1, nil, 3}"})
     Expect("zvQuerySkuDetails", bad, nullptr, "error: test:1: SkuDetails need string list");
 }
@@ -238,19 +143,13 @@ TEST_F(Wrappers, ALengthThatATableClaimsIsHonouredAndBounded) {
 TEST_F(Wrappers, RecordsReachTheSdkThemselves) {
   host.Run(
       "order = velora.OrderInfo.new('gold'); rank = velora.QueryRankInfo.new(); share = velora.ShareInfo.new('s')");
-  for (const char* name : {"zvCheckOrder", "zvConsume"}) {
-    Expect(name, "order, 1", "OrderInfo(\"gold\")");
-    for (const char* bad : {"", "nil", "{}", "share", "io.stdout", "'gold'"}) Expect(name, bad, nullptr);
-  }
+  for (const char* name : {"zvCheckOrder", "zvConsume"}) Expect(name, "order, 1", "OrderInfo(\"gold\")");
   Expect("zvQueryRank", "rank", "QueryRankInfo()");
-  Expect("zvQueryRank", "order", nullptr);
   Expect("zvShare", "share", "ShareInfo(\"s\")");
-  Expect("zvShare", "rank", nullptr);
   for (const bool answer : {true, false}) {
     offline::SetAnswer("zvCheckArgs", answer);
     Expect("zvCheckArgs", "share", "ShareInfo(\"s\")", answer ? "true" : "false");
   }
-  Expect("zvCheckArgs", "rank", nullptr);
 }
 
 TEST_F(Wrappers, CheckedOrdersAreNewObjectsForTheSameRecords) {
@@ -273,8 +172,6 @@ TEST_F(Wrappers, ServicesWithOptionalArguments) {
   Expect("zvCreateQRCode", "'t', 300, 2^32|0 + 1, 'p'", "\"t\", 300, 1, \"p\"");
   Expect("zvCreateQRCode", "'t', 300, 1, 'p', false", "\"t\", 300, 1, \"p\"");
   Expect("zvCreateQRCode", "'t', 300, 1, 'p', 5", "\"t\", 300, 1, \"p\", \"5\"");
-  for (const char* bad : {"'t', 300.0, 1, 'p'", "'t', 1, '2', 'p'", "'t', 1, 2", "{}, 1, 2, 'p'", "'t', 1, 2, {}"})
-    Expect("zvCreateQRCode", bad, nullptr);
 
   const char* const voice[][2] = {
       {"('x'):rep(960)", "<960 bytes>, 960, 48000, 16, 2"},
@@ -288,7 +185,6 @@ TEST_F(Wrappers, ServicesWithOptionalArguments) {
       {"12", "<2 bytes>, 2, 48000, 16, 2"},
   };
   for (const auto& [arguments, call] : voice) Expect("zvPushGameVoice", arguments, call);
-  for (const char* bad : kNoTexts) Expect("zvPushGameVoice", bad, nullptr);
 }
 
 }  // namespace
