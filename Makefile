@@ -65,6 +65,11 @@ bench: ## measure the module against hand-written bindings, and chart it in docs
 	cmake --build --preset bench --target velora_bench
 	python3 bench/report.py $(BUILD)/bench/bin/velora_bench $(BUILD)/bench docs
 
+.PHONY: reference
+reference: ## write the pages of docs/reference/ from the annotations in types/
+	tools/setup test
+	tools/make_reference
+
 .PHONY: format format-check
 format: ## lay the sources out with clang-format
 	tools/setup test

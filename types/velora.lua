@@ -1743,7 +1743,7 @@ function velora.zvSendProfile(text, flag) end
 ---@param identifier velora.Text
 function velora.zvSetUserIdentifier(identifier) end
 
--- ### Analytics
+-- ### Analytics keys
 -- Strings: keys and values for analytics reports.
 
 ---@class velora

@@ -1,0 +1,338 @@
+-- Holds the annotation files against the live tables: every name, kind and fixed value; what each callback receives;
+-- what each function takes and gives. Arguments are made from the annotated types, so a wrong type is refused.
+local annotations = dofile("types/annotations.lua")
+local items = annotations.read("types/velora.lua")
+local globals = annotations.globals(items)
+local counts, failed = {}, false
+
+local function fail(...)
+  failed = true
+  print(string.format(...))
+end
+
+local function sortedPairs(map)
+  local names = {}
+  for name in pairs(map) do names[#names + 1] = name end
+  table.sort(names)
+  local i = 0
+  return function()
+    i = i + 1
+    return names[i], map[names[i]]
+  end
+end
+
+local function count(what) counts[what] = (counts[what] or 0) + 1 end
+
+local aliases, structures = {}, {}
+for _, item in ipairs(items) do
+  if item.kind == "alias" then aliases[item.name] = item.type end
+  if item.kind == "class" and item.name == "velora.SyncDownloadHandler" then structures[item.name] = item.fields end
+end
+
+-- The class table that a type names.
+local function classOf(type)
+  local name = type:match("^velora%.(%w+)$")
+  return name and velora[name]
+end
+
+-- A value of an annotated type. `object` makes one of a class, from the class's name.
+local function sample(type, object)
+  type = (aliases[type] or type):gsub("%?$", ""):match("^[^|]+")
+  if aliases[type] then return sample(aliases[type], object) end
+  local element, key, value = type:match("^(.*)%[%]$"), type:match("^table<(.-), (.*)>$")
+  if element then return { sample(element, object) } end
+  if key then return { [sample(key, object)] = sample(value, object) } end
+  if classOf(type) then return object(type:match("%w+$")) end
+  if type:find("^fun%(") then return print end
+  if structures[type] then
+    local structure = {}
+    for _, field in ipairs(structures[type]) do structure[field.name] = sample(field.type, object) end
+    return structure
+  end
+  local plain = { string = "text", integer = 7, number = 2.0, boolean = true, any = "text" }
+  return assert(plain[type], type)
+end
+
+local function fits(value, type)
+  type = aliases[type] or type
+  if type:find("%?$") then return value == nil or fits(value, type:sub(1, -2)) end
+  local element, key, inner = type:match("^(.*)%[%]$"), type:match("^table<(.-), (.*)>$")
+  if element then key, inner = "integer", element end
+  if key then
+    if _G.type(value) ~= "table" then return false end
+    for k, v in pairs(value) do
+      if not fits(k, key) or not fits(v, inner) then return false end
+    end
+    return true
+  end
+  if classOf(type) then
+    return _G.type(value) == "userdata" and debug.getmetatable(value).__index == classOf(type)
+  end
+  if structures[type] then return _G.type(value) == "table" end
+  if type == "integer" or type == "number" then
+    return math.type(value) == (type == "integer" and "integer" or "float")
+  end
+  if type:find("^%-?%d+$") then return math.type(value) == "integer" and value == math.tointeger(type) end
+  return _G.type(value) == (type:find("^fun%(") and "function" or type)
+end
+
+-- Names and kinds, in both directions. Metamethods are no names for scripts.
+local function compare(path, described, live)
+  for name, member in sortedPairs(described) do
+    local value = live[name]
+    if member.fields then
+      if type(value) == "table" then compare(path .. name .. ".", member.fields, value)
+      else fail("%s%s is no table", path, name) end
+    elseif not (member.type and fits(value, member.type) or not member.type and type(value) == "function") then
+      fail("%s%s is %s, described as %s", path, name, value, member.type or "a function")
+    end
+    count("names of " .. path:match("^%w*"))
+  end
+  for name in sortedPairs(live) do
+    if not described[name] and not name:find("^__") then fail("%s%s is not described", path, name) end
+  end
+end
+
+-- An integer has its value in the description unless it is the SDK's.
+local function compareFixedValues()
+  local sdk = {}
+  for line in io.lines("platform/constants.def") do sdk[line:match("^VELORA_CONSTANT%(([%w_]+)") or ""] = true end
+  for name, member in sortedPairs(globals.velora.fields) do
+    if member.kind == "constant" and math.type(velora[name]) == "integer" then
+      local fixed = member.type ~= "integer"
+      if fixed == (sdk[name] or false) then fail("velora.%s is described as %s", name, member.type) end
+      if fixed then count("fixed integers") end
+    end
+  end
+end
+
+-- A record as offline.post takes it: each field of the class with a value of its getter's type.
+local function record(class)
+  local fields = {}
+  for name, member in pairs(globals.velora.fields[class].fields) do
+    local field = name:match("^get_(.*)")
+    if field then fields[field] = sample(member.returns[1].type) end
+  end
+  return fields
+end
+
+-- `received` is what came for a full payload, `bare` what came for none. Nil comes for none, and where it is described.
+local function compareReceived(name, params, received, bare)
+  count("callbacks")
+  if received.n ~= #params or bare.n ~= #params then
+    return fail("%s receives %d and %d values, not %d", name, received.n, bare.n, #params)
+  end
+  for i, param in ipairs(params) do
+    local value = received[i]
+    if value == nil or not fits(value, param.type) then fail("%s gets %s as its %s", name, value, param.name) end
+    if (bare[i] == nil) ~= (param.type:sub(-1) == "?") then
+      fail("%s gets %s as its %s when the event is bare", name, bare[i], param.name)
+    end
+  end
+end
+
+local function payload(params)
+  local values = {}
+  for i, param in ipairs(params) do values[i] = sample(param.type, record) end
+  return table.unpack(values)
+end
+
+-- Each event once with all that its description names and once with nothing, on two frames; `objects` keeps what came
+-- by class.
+local objects, events = {}, {}
+
+local function postEvents()
+  for name, member in sortedPairs(globals.velora.fields) do
+    local event = name:match("^setOn(.+)")
+    if event then
+      local params = annotations.signature(aliases[member.params[1].type])
+      local calls = { params = params }
+      events[event] = calls
+      velora[name](function(...) calls[#calls + 1] = table.pack(...) end)
+      local ok, message = pcall(function() offline.post(event, payload(params)) end)
+      if not ok then fail("%s: %s", event, message) end
+      offline.post(event)
+    end
+  end
+end
+
+local function compareEvents()
+  for event, calls in sortedPairs(events) do
+    if #calls == 2 then compareReceived(event, calls.params, calls[1], calls[2]) end
+    for i, param in ipairs(calls.params) do
+      local class = param.type:match("^velora%.(%w+)")
+      local value = #calls > 0 and calls[1][i]
+      if class and value then objects[class] = type(value) == "table" and value[1] or value end
+    end
+  end
+end
+
+local function compareHandler()
+  local calls = {}
+  local handler = {}
+  for _, field in ipairs(structures["velora.SyncDownloadHandler"]) do
+    handler[field.name] = function(...) calls[#calls + 1] = table.pack(...) end
+  end
+  velora.download.setSyncDownloadHandler(handler)
+  for _, field in ipairs(structures["velora.SyncDownloadHandler"]) do
+    calls = {}
+    local params = annotations.signature(field.type)
+    offline.download(field.name, payload(params))
+    offline.download(field.name)
+    compareReceived(field.name, params, calls[1], calls[2])
+  end
+  velora.download.setSyncDownloadHandler()
+end
+
+-- A new object, of the class's `new` where it has one.
+local function fresh(class)
+  local make = globals.velora.fields[class].fields.new
+  if not make then return objects[class] end
+  local values = {}
+  for i, param in ipairs(make.params) do values[i] = sample(param.type) end
+  return velora[class].new(table.unpack(values))
+end
+
+local function object(class)
+  objects[class] = objects[class] or fresh(class)
+  return objects[class]
+end
+
+-- The results of a call, nil where it raised an error, and whether it reached the SDK.
+local function try(callee, values, n)
+  offline.calls()
+  local results = table.pack(pcall(callee, table.unpack(values, 1, n)))
+  local reached = #offline.calls() > 0
+  if not results[1] then return nil, reached end
+  return table.pack(table.unpack(results, 2, results.n)), reached
+end
+
+local function compareResults(name, returns, results)
+  if not results then return fail("%s raises an error", name) end
+  if results.n > #returns then fail("%s gives %d results, not %d", name, results.n, #returns) end
+  for i, result in ipairs(returns) do
+    if not fits(results[i], result.type) then fail("%s gives %s, not %s", name, results[i], result.type) end
+  end
+end
+
+-- Wrong arguments: one too few, and a text for each number or boolean that must be one.
+local function compareRefusals(name, member, callee, values, required)
+  if required > 0 and #member.overloads == 0 then
+    local _, reached = try(callee, values, required - 1)
+    if reached then fail("%s can do without its %s", name, member.params[required].name) end
+  end
+  for i = 1, required do
+    local type = member.params[i].type
+    if type == "integer" or type == "boolean" then
+      local wrong = table.move(values, 1, #values, 1, {})
+      wrong[i] = "text"
+      local _, reached = try(callee, wrong, #values)
+      if reached then fail("%s takes a text as its %s", name, member.params[i].name) end
+    end
+  end
+end
+
+-- A function that calls the SDK: with all its arguments, with those that it must have, without a needed one, and with
+-- an operation that has nothing to give.
+local function compareFunction(name, operation, member, callee)
+  local values, required = {}, 0
+  for i, param in ipairs(member.params) do
+    values[i] = sample(param.type, object)
+    if not param.optional then required = i end
+  end
+  local nilSeen = false
+  local function call(n)
+    local results, reached = try(callee, values, n)
+    compareResults(name, member.returns, results)
+    if not reached then fail("%s does not reach the SDK", name) end
+    nilSeen = nilSeen or results and results[1] == nil
+  end
+  call(#values)
+  call(required)
+  if #member.overloads > 0 then call(0) end
+  compareRefusals(name, member, callee, values, required)
+  local isText = member.returns[1] and member.returns[1].type:find("^string")
+  if isText then
+    offline.answer(operation, false)
+    call(#values)
+    offline.answer(operation, nil)
+  end
+  local optional = member.returns[1] and member.returns[1].type:sub(-1) == "?"
+  if optional and not nilSeen then fail("%s never gives nil", name) end
+  count("functions")
+end
+
+-- Fields: what a setter takes, its getter gives; from a new object whose record fails nil comes, where it is described.
+local function compareAccessors(class, members)
+  local self, new = object(class), fresh(class)
+  for name, member in sortedPairs(members) do
+    if name:find("^set_") then
+      compareResults(class .. "." .. name, {}, try(self[name], { self, sample(member.params[2].type) }, 2))
+    end
+  end
+  for name, member in sortedPairs(members) do
+    if name:find("^get_") then
+      local result = member.returns[1].type
+      compareResults(class .. "." .. name, { { type = result:gsub("%?$", "") } }, try(self[name], { self }, 1))
+      pcall(offline.answer, class .. "." .. name, false)
+      local value = new[name](new)
+      if (value == nil) ~= (result:sub(-1) == "?") then fail("%s.%s gives %s", class, name, value) end
+      pcall(offline.answer, class .. "." .. name, nil)
+      count("getters")
+    end
+  end
+end
+
+-- Functions that call no operation of the SDK's of their own.
+local ownWays = { getSyncDownloadHandler = true, ["ProductInfo.new"] = true }
+
+local function compareFunctions()
+  for name, member in sortedPairs(globals.velora.fields) do
+    if member.kind == "function" and not name:find("^[gs]etOn") then
+      compareFunction(name, name, member, velora[name])
+    end
+    if velora[name] and member.fields and name ~= "utils" then
+      for inner, function_ in sortedPairs(member.fields) do
+        local operation = name == "download" and inner or name .. "." .. inner:gsub("^new$", "New")
+        if not inner:find("^[gs]et_") and not ownWays[inner] and not ownWays[name .. "." .. inner] then
+          compareFunction(name .. "." .. inner, operation, function_, velora[name][inner])
+        end
+      end
+      if name ~= "download" then compareAccessors(name, member.fields) end
+    end
+  end
+end
+
+-- Lists that were empty before have something in them by now.
+local function compareFilledList(name, list, member)
+  if list == nil or not fits(list, member.returns[1].type) then fail("%s gives %s", name, list) end
+  count("lists")
+end
+
+local function report()
+  local lines = {}
+  for what, n in pairs(counts) do lines[#lines + 1] = n .. " " .. what end
+  table.sort(lines)
+  print(table.concat(lines, "\n"))
+  player.quit(not failed)
+end
+
+compare("velora.", globals.velora.fields, velora)
+local playerGlobals = annotations.globals(annotations.read("types/player.lua"))
+for _, name in ipairs{ "player", "offline" } do compare(name .. ".", playerGlobals[name].fields, _G[name]) end
+compareFixedValues()
+postEvents()
+player.onFrame(function(frame)
+  if frame == 1 then
+    compareEvents()
+    compareHandler()
+    compareFunctions()
+  elseif frame == 20 then -- the orders from before are consumed
+    velora.zvCheckOrder(velora.OrderInfo.new("text"))
+  elseif frame == 40 then
+    local fields = globals.velora.fields
+    compareFilledList("zvGetCheckedOrders", velora.zvGetCheckedOrders(), fields.zvGetCheckedOrders)
+    compareFilledList("getProductList", velora.OrderInfo.getProductList(), fields.OrderInfo.fields.getProductList)
+    report()
+  end
+end)
