@@ -167,13 +167,22 @@ local function compareEvents()
   end
 end
 
+-- A result that is nil at one time and there at another.
+local function compareOptional(name, member, absent, present)
+  local type = member.returns[1].type
+  if absent ~= nil or type:sub(-1) ~= "?" then fail("%s gives %s where there is nothing", name, absent) end
+  if present == nil or not fits(present, type) then fail("%s gives %s, not %s", name, present, type) end
+  count("optional tables")
+end
+
 local function compareHandler()
-  local calls = {}
-  local handler = {}
+  local calls, handler, get = {}, {}, velora.download.getSyncDownloadHandler
+  local absent = get()
   for _, field in ipairs(structures["velora.SyncDownloadHandler"]) do
     handler[field.name] = function(...) calls[#calls + 1] = table.pack(...) end
   end
   velora.download.setSyncDownloadHandler(handler)
+  compareOptional("getSyncDownloadHandler", globals.velora.fields.download.fields.getSyncDownloadHandler, absent, get())
   for _, field in ipairs(structures["velora.SyncDownloadHandler"]) do
     calls = {}
     local params = annotations.signature(field.type)
@@ -257,8 +266,7 @@ local function compareFunction(name, operation, member, callee)
     call(#values)
     offline.answer(operation, nil)
   end
-  local optional = member.returns[1] and member.returns[1].type:sub(-1) == "?"
-  if optional and not nilSeen then fail("%s never gives nil", name) end
+  if isText and not nilSeen then fail("%s never gives nil", name) end
   count("functions")
 end
 
@@ -303,12 +311,6 @@ local function compareFunctions()
   end
 end
 
--- Lists that were empty before have something in them by now.
-local function compareFilledList(name, list, member)
-  if list == nil or not fits(list, member.returns[1].type) then fail("%s gives %s", name, list) end
-  count("lists")
-end
-
 local function report()
   local lines = {}
   for what, n in pairs(counts) do lines[#lines + 1] = n .. " " .. what end
@@ -322,6 +324,7 @@ local playerGlobals = annotations.globals(annotations.read("types/player.lua"))
 for _, name in ipairs{ "player", "offline" } do compare(name .. ".", playerGlobals[name].fields, _G[name]) end
 compareFixedValues()
 postEvents()
+local noOrders, noProducts = velora.zvGetCheckedOrders(), velora.OrderInfo.getProductList()
 player.onFrame(function(frame)
   if frame == 1 then
     compareEvents()
@@ -331,8 +334,9 @@ player.onFrame(function(frame)
     velora.zvCheckOrder(velora.OrderInfo.new("text"))
   elseif frame == 40 then
     local fields = globals.velora.fields
-    compareFilledList("zvGetCheckedOrders", velora.zvGetCheckedOrders(), fields.zvGetCheckedOrders)
-    compareFilledList("getProductList", velora.OrderInfo.getProductList(), fields.OrderInfo.fields.getProductList)
+    compareOptional("zvGetCheckedOrders", fields.zvGetCheckedOrders, noOrders, velora.zvGetCheckedOrders())
+    compareOptional("getProductList", fields.OrderInfo.fields.getProductList, noProducts,
+      velora.OrderInfo.getProductList())
     report()
   end
 end)
