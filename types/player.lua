@@ -17,7 +17,7 @@ function player.quit(status) end
 
 ---Calls a function after each frame's update, in place of the one before; nil ends that. Frames count from 1. An error
 ---in the function ends the run.
----@param onFrame fun(frame: integer)?
+---@param onFrame fun(frame: integer)|nil
 function player.onFrame(onFrame) end
 
 -- ## The offline runtime

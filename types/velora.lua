@@ -631,9 +631,9 @@ function velora.zvRemoveCheckedOrders(orderId) end
 ---@return string?
 function velora.getFFChannelByPid(productId) end
 
----Hands a text to DRPF, one of the SDK's reports.
+---Hands a text to DRPF, one of the SDK's reports, and gives its code.
 ---@param text velora.Text
----@return integer result the SDK's code
+---@return integer
 function velora.DRPF(text) end
 
 ---The store has described its items.
@@ -910,7 +910,7 @@ function velora.zvApplyFriend(accountId) end
 ---@param second velora.Text passed to the SDK as it is
 function velora.zvInviteFriendList(first, second) end
 
----Asks whether the expert ("daren") data has been updated; answered by QueryIsDarenUpdated.
+---Asks whether the "daren" data has been updated; answered by QueryIsDarenUpdated.
 function velora.zvIsDarenUpdated() end
 
 ---Opens the page of further games.
@@ -965,7 +965,7 @@ function velora.setOnQueryInviteFriendListFinished(callback) end
 ---@return velora.OnQueryInviteFriendListFinished? callback
 function velora.getOnQueryInviteFriendListFinished() end
 
----Whether the expert ("daren") data has been updated.
+---Whether the "daren" data has been updated.
 ---@alias velora.OnQueryIsDarenUpdated fun(updated: boolean)
 ---@param callback velora.OnQueryIsDarenUpdated
 function velora.setOnQueryIsDarenUpdated(callback) end
@@ -1381,8 +1381,7 @@ function velora.zvHasChannelConnected() end
 ---@return string?
 function velora.zvGetChannelID() end
 
----Selects one of the channel's options, as ConnectToChannelFinished may ask for; answered by
----SelectChannelOptionFinished.
+---Selects one of the channel's options; answered by SelectChannelOptionFinished.
 ---@param option integer
 function velora.zvSelectChannelOption(option) end
 
@@ -1436,8 +1435,8 @@ function velora.zvOpenWebView(url) end
 function velora.zvCloseWebView() end
 
 ---Shows a web page of the SDK.
----@param page velora.Text an address, or one of `ZV_WEB_*`
-function velora.zvShowWeb(page) end
+---@param url velora.Text passed to the SDK as it is; `ZV_WEB_*` name the SDK's own pages
+function velora.zvShowWeb(url) end
 
 ---Shows a board.
 ---@param first velora.Text passed to the SDK as it is
@@ -1453,7 +1452,7 @@ function velora.setOnWebviewNativeCall(callback) end
 function velora.getOnWebviewNativeCall() end
 
 -- ### Web pages
--- Strings that name the SDK's own pages, for `zvShowWeb`.
+-- Strings that name the SDK's own web pages.
 
 ---@class velora
 ---@field ZV_WEB_NOTICE_INTRO string
