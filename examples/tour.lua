@@ -149,9 +149,15 @@ end
 local function download()
   say("\nA download talks to a table of three functions, without waiting for the next frame.")
   say("Offline nothing comes over a wire: offline.download plays the service's part.")
+  -- On a terminal the progress is one line, drawn again and again.
+  local redraw = player.terminal and "\r%s" or "%s\n"
   velora.download.setSyncDownloadHandler{
     onInited = function() show("download", "begins") end,
-    onProgress = function(percent) say("  %3d %%  [%-20s]", percent, ("#"):rep(tonumber(percent) // 5)) end,
+    onProgress = function(percent)
+      local line = string.format("  %3d %%  [%-20s]", percent, ("#"):rep(tonumber(percent) // 5))
+      io.write(redraw:format(line))
+      io.flush()
+    end,
     onFinish = function(name, bytes) show("download", name .. " is here, " .. #bytes .. " bytes") end,
   }
   offline.download("onInited")
@@ -159,6 +165,7 @@ local function download()
     offline.download("onProgress", tostring(percent))
     pause(5)
   end
+  if player.terminal then print() end
   offline.download("onFinish", "coast.map", ("~"):rep(512))
   velora.download.setSyncDownloadHandler()
   show("handler", velora.download.getSyncDownloadHandler())

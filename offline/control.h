@@ -47,6 +47,9 @@ VELORA_SDK_API void SetTrace(bool enabled);
 // Whether log lines go to stderr as well as to TakeLog (they do by default).
 VELORA_SDK_API void SetLogToStderr(bool enabled);
 
+// Whether the word ERROR stands out in red there (it does not by default).
+VELORA_SDK_API void SetLogColour(bool enabled);
+
 // What the operation `name` ("getChannel", "OrderInfo.New", "OrderInfo.get_aid", "OrderInfo.toString") answers from
 // now on: text or false for one that fills a string, a boolean or an integer for one that returns it. False for a
 // factory gives no record. An operation that is answered by an event takes the event's flag, code or order status from
@@ -80,7 +83,7 @@ VELORA_SDK_API std::size_t LiveRecords();
 VELORA_SDK_API void SetCallHook(void (*hook)(const char* operation));
 
 // Forgets all state, answers, queued events, lines and handlers, drops the answers that have not begun and waits for
-// the one that has. Log channels, the hook and the two switches stay as they are.
+// the one that has. Log channels, the hook and the switches stay as they are.
 VELORA_SDK_API void Reset();
 
 // Stops the runtime's thread once it has answered what it still has to; call it before the process ends. A later

@@ -27,6 +27,7 @@ namespace {
 struct LogState {
   velora::offline::LineBuffer lines;
   std::atomic<bool> toStderr = true;
+  std::atomic<bool> colour = false;
   std::mutex mutex;                   // of the channels
   std::vector<std::string> channels;  // the id is the index plus one
 };
@@ -59,11 +60,18 @@ void AppendFormatted(std::string& line, const char* format, std::va_list argumen
   line.pop_back();
 }
 
+constexpr const char* kError = "ERROR";
+
 void Write(std::uint32_t channel, const char* level, const char* format, std::va_list arguments) {
   try {
-    std::string line = "[" + ChannelName(channel) + "] " + level + " ";
-    if (format != nullptr) AppendFormatted(line, format, arguments);
-    if (TheLog().toStderr) std::fprintf(stderr, "%s\n", line.c_str());
+    const std::string start = "[" + ChannelName(channel) + "] ";
+    std::string rest = " ";
+    if (format != nullptr) AppendFormatted(rest, format, arguments);
+    std::string line = start + level + rest;
+    if (TheLog().toStderr) {
+      const bool red = TheLog().colour && level == kError;
+      std::fprintf(stderr, "%s\n", red ? (start + "\033[31m" + level + "\033[0m" + rest).c_str() : line.c_str());
+    }
     TheLog().lines.Add(std::move(line));
   } catch (const std::exception& error) {
     std::fprintf(stderr, "[?] ERROR a log line is lost: %s\n", error.what());
@@ -94,7 +102,7 @@ void Log(std::uint32_t channel, std::int32_t level, const char* format, ...) {
 void LogError(std::uint32_t channel, const char* format, ...) {
   std::va_list arguments;
   va_start(arguments, format);
-  Write(channel, "ERROR", format, arguments);
+  Write(channel, kError, format, arguments);
   va_end(arguments);
 }
 
@@ -104,6 +112,7 @@ namespace tarn::velora::offline {
 
 std::vector<std::string> TakeLog() { return log::TheLog().lines.Take(); }
 void SetLogToStderr(bool enabled) { log::TheLog().toStderr = enabled; }
+void SetLogColour(bool enabled) { log::TheLog().colour = enabled; }
 void ForgetLogLines() { log::TheLog().lines.Take(); }
 
 }  // namespace tarn::velora::offline

@@ -1,31 +1,22 @@
 // velora-play: plays a script against the module and the offline runtime, as a game would, about 60 frames a second.
 #include <algorithm>
-#include <charconv>
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <exception>
 #include <filesystem>
-#include <limits>
 #include <lua.hpp>
-#include <optional>
 #include <stdexcept>
-#include <string>
-#include <string_view>
-#include <system_error>
 #include <thread>
 
 #include "offline/control.h"
+#include "player/interrupt.h"
 #include "player/library.h"
 #include "player/offline_table.h"
+#include "player/options.h"
 #include "player/player_table.h"
-
-#if defined(_WIN32)
-#include <fcntl.h>
-#include <io.h>
-#endif
+#include "player/terminal.h"
 
 namespace player {
 namespace {
@@ -33,18 +24,11 @@ namespace {
 constexpr int kFailed = 1;       // the script raised, or something could not be loaded
 constexpr int kOutOfFrames = 2;  // all frames passed without player.quit
 constexpr int kBadArguments = 64;
-
-constexpr const char* kUsage = "usage: velora-play [--module FILE] [--frames N] [--trace] SCRIPT [ARG...]\n";
+constexpr int kInterrupted = 130;
+constexpr int kHookInterval = 10'000;  // instructions
 
 using Clock = std::chrono::steady_clock;
 constexpr Clock::duration kFrameTime = std::chrono::microseconds(16667);
-
-struct Options {
-  std::optional<std::filesystem::path> module;
-  std::int64_t frames = std::numeric_limits<std::int64_t>::max();
-  bool trace = false;
-  int script = 1;  // where the script's name stands in argv; the script's own arguments follow
-};
 
 // What the steps of one run work with.
 struct Game {
@@ -56,53 +40,6 @@ struct Game {
   QuitRequest quit = {};
   bool closing = false;  // the Lua state is on its way out
 };
-
-std::int64_t ParseFrames(const char* text) {
-  std::int64_t frames = 0;
-  const char* end = text + std::strlen(text);
-  const auto [rest, error] = std::from_chars(text, end, frames);
-  if (error != std::errc() || rest != end || frames <= 0)
-    throw std::invalid_argument("--frames takes a number from 1 on, not '" + std::string(text) + "'");
-  return frames;
-}
-
-// Throws std::invalid_argument with a text that says what is wrong.
-Options ParseOptions(int argc, char** argv) {
-  Options options;
-  int next = 1;
-  while (next < argc && argv[next][0] == '-') {
-    const std::string option = argv[next++];
-    const auto value = [&]() -> const char* {
-      if (next == argc) throw std::invalid_argument(option + " takes a value");
-      return argv[next++];
-    };
-    if (option == "--module") {
-      options.module = value();
-    } else if (option == "--frames") {
-      options.frames = ParseFrames(value());
-    } else if (option == "--trace") {
-      options.trace = true;
-    } else {
-      throw std::invalid_argument("unknown option " + option);
-    }
-  }
-  if (next >= argc) throw std::invalid_argument("no script given");
-  options.script = next;
-  return options;
-}
-
-void Complain(const char* text) { std::fprintf(stderr, "velora-play: %s\n", text); }
-
-// The same bytes come out on every system, and no line of one stream waits while the other goes on.
-void PrepareOutput() {
-#if defined(_WIN32)
-  _setmode(_fileno(stdout), _O_BINARY);
-  _setmode(_fileno(stderr), _O_BINARY);
-  std::setvbuf(stdout, nullptr, _IONBF, 0);
-#else
-  std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
-#endif
-}
 
 // Message handler: gives the error's text and the traceback.
 int Traceback(lua_State* L) {
@@ -159,6 +96,13 @@ void ReplaceExit(lua_State* L, Game& game) {
   lua_pop(L, 1);
 }
 
+void OnHook(lua_State* L, lua_Debug*) { StopWhenInterrupted(L); }
+
+// Coroutines have the hook of their maker. A script may use the hook for itself, and give it back.
+void SetHook(lua_State* L) {
+  if (lua_gethook(L) == nullptr) lua_sethook(L, OnHook, LUA_MASKCOUNT, kHookInterval);
+}
+
 // The steps run in protected mode, since the entry points may raise memory errors. They own nothing.
 
 Game& GameOf(lua_State* L) { return *static_cast<Game*>(lua_touserdata(L, 1)); }
@@ -168,9 +112,10 @@ int Start(lua_State* L) {
   luaL_openlibs(L);
   ReplaceExit(L, game);
   SetArguments(L, game);
-  OpenPlayerTable(L, game.quit);
+  OpenPlayerTable(L, game.quit, IsTerminal());
   OpenOfflineTable(L);
   game.module.init(L);
+  SetHook(L);
   return 0;
 }
 
@@ -186,6 +131,7 @@ int RunScript(lua_State* L) {
 
 int RunFrame(lua_State* L) {
   const Game& game = GameOf(L);
+  SetHook(L);
   game.module.update(L);
   if (!PushFrameFunction(L)) return 0;
   lua_pushinteger(L, game.frame);
@@ -210,9 +156,11 @@ bool Protected(lua_State* L, lua_CFunction step, Game& game) {
 
 int RunFrames(lua_State* L, Game& game, std::int64_t frames) {
   Clock::time_point next = Clock::now();
-  while (!game.quit.made) {
+  while (!game.quit.made && !Interrupted()) {
     if (game.frame == frames) {
-      std::fprintf(stderr, "velora-play: frame %lld has passed without player.quit\n", static_cast<long long>(frames));
+      char text[64];
+      std::snprintf(text, sizeof text, "frame %lld has passed without player.quit", static_cast<long long>(frames));
+      Complain(text);
       return kOutOfFrames;
     }
     std::this_thread::sleep_until(next);
@@ -243,6 +191,16 @@ int PlayInNewState(Game& game, std::int64_t frames) {
   return status;
 }
 
+int PlayGame(int argc, char** argv, const Options& options) {
+  CatchInterrupt();
+  tarn::velora::offline::SetTrace(options.trace);
+  tarn::velora::offline::SetLogColour(HasColour());
+  Game game{LoadModule(options.module ? *options.module : DefaultModule()), argc, argv, options.script};
+  const int status = PlayInNewState(game, options.frames);
+  tarn::velora::offline::Stop();
+  return Interrupted() ? kInterrupted : status;
+}
+
 int Main(int argc, char** argv) {
   PrepareOutput();
   Options options;
@@ -253,11 +211,9 @@ int Main(int argc, char** argv) {
     std::fputs(kUsage, stderr);
     return kBadArguments;
   }
-  tarn::velora::offline::SetTrace(options.trace);
-  Game game{LoadModule(options.module ? *options.module : DefaultModule()), argc, argv, options.script};
-  const int status = PlayInNewState(game, options.frames);
-  tarn::velora::offline::Stop();
-  return status;
+  if (options.task == Options::Task::kPlay) return PlayGame(argc, argv, options);
+  std::fputs(options.task == Options::Task::kHelp ? kHelp : kVersion, stdout);
+  return 0;
 }
 
 }  // namespace

@@ -38,10 +38,12 @@ constexpr luaL_Reg kFunctions[] = {{"quit", Quit}, {"onFrame", OnFrame}, {nullpt
 
 }  // namespace
 
-void OpenPlayerTable(lua_State* L, QuitRequest& request) {
+void OpenPlayerTable(lua_State* L, QuitRequest& request, bool terminal) {
   luaL_newlibtable(L, kFunctions);
   lua_pushlightuserdata(L, &request);
   luaL_setfuncs(L, kFunctions, 1);
+  lua_pushboolean(L, terminal);
+  lua_setfield(L, -2, "terminal");
   lua_setglobal(L, "player");
 }
 

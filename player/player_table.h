@@ -11,8 +11,9 @@ struct QuitRequest {
   int status = 0;
 };
 
-// Sets the global `player`. `request` must outlive the state. May raise a memory error.
-void OpenPlayerTable(lua_State* L, QuitRequest& request);
+// Sets the global `player`, where `terminal` tells whether the output goes to one. `request` must outlive the state.
+// May raise a memory error.
+void OpenPlayerTable(lua_State* L, QuitRequest& request, bool terminal);
 
 // Pushes the function given to player.onFrame and answers true, or pushes nothing where there is none.
 bool PushFrameFunction(lua_State* L);

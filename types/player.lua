@@ -9,6 +9,7 @@
 
 ---The run of a script.
 ---@class player
+---@field terminal boolean whether the output goes to a terminal, where a line can be drawn again after `\r`
 player = {}
 
 ---Ends the run after this frame.

@@ -1,5 +1,6 @@
 # Plays one script and compares exit status and output with what is expected. Variables: PLAYER (a command line),
-# ARGUMENTS, STATUS, and STDOUT and STDERR, files with the expected text where it matters.
+# ARGUMENTS, STATUS, and where they matter STDOUT and STDERR, files with the expected text, and PATTERN, a regular
+# expression for stdout.
 separate_arguments(PLAYER UNIX_COMMAND "${PLAYER}")
 separate_arguments(ARGUMENTS UNIX_COMMAND "${ARGUMENTS}")
 execute_process(COMMAND ${PLAYER} ${ARGUMENTS} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err
@@ -19,4 +20,7 @@ if(STDOUT)
 endif()
 if(STDERR)
   compare(stderr "${err}" ${STDERR})
+endif()
+if(NOT out MATCHES "${PATTERN}")
+  message(FATAL_ERROR "stdout does not match ${PATTERN}:\n${out}")
 endif()

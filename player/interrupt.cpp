@@ -1,0 +1,40 @@
+// The handler sets a flag and nothing else: it may run in the middle of anything, on Windows on a thread of its own.
+#include "player/interrupt.h"
+
+#include <atomic>
+#include <chrono>
+#include <csignal>
+
+namespace player {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+constexpr Clock::duration kPatience = std::chrono::milliseconds(250);
+
+std::atomic<bool> interrupted = false;
+static_assert(std::atomic<bool>::is_always_lock_free);
+
+void OnInterrupt(int signal) {
+  std::signal(signal, SIG_DFL);
+  interrupted = true;
+}
+
+}  // namespace
+
+void CatchInterrupt() { std::signal(SIGINT, OnInterrupt); }
+
+bool Interrupted() { return interrupted; }
+
+void StopWhenInterrupted(lua_State* L) {
+  if (!interrupted) return;
+  static const Clock::time_point seen = Clock::now();
+  if (Clock::now() - seen < kPatience) return;
+  // Whoever catches the error gets the next one at once.
+  lua_sethook(L, lua_gethook(L), lua_gethookmask(L), 1);
+  luaL_where(L, 0);
+  lua_pushliteral(L, "interrupted");
+  lua_concat(L, 2);
+  lua_error(L);
+}
+
+}  // namespace player

@@ -1,0 +1,24 @@
+-- Ctrl-C, while the script waits for frames or, given "stuck", where nothing but the player can end it.
+local function press()
+  io.popen("kill -INT $PPID"):close()
+end
+
+velora.setOnLoginDone(print)
+atTheEnd = setmetatable({}, {__gc = function() print("the end", velora.getOnLoginDone() == nil) end})
+
+if ... == "stuck" then
+  press()
+  coroutine.wrap(function()
+    while true do
+      pcall(function() while true do end end)
+    end
+  end)()
+end
+
+player.onFrame(function(frame)
+  print("frame", frame)
+  if frame == 2 then
+    press()
+    print("the frame goes on")
+  end
+end)
