@@ -16,6 +16,7 @@
 #include "player/offline_table.h"
 #include "player/options.h"
 #include "player/player_table.h"
+#include "player/strict.h"
 #include "player/terminal.h"
 
 namespace player {
@@ -35,7 +36,7 @@ struct Game {
   Module module;
   int argc;
   char** argv;
-  int script;
+  const Options& options;
   std::int64_t frame = 0;
   QuitRequest quit = {};
   bool closing = false;  // the Lua state is on its way out
@@ -61,10 +62,10 @@ void CallScript(lua_State* L, int arguments) {
 
 // Sets the table `arg` as the program `lua` does: the script at 0, its arguments from 1 on, what came before below 0.
 void SetArguments(lua_State* L, const Game& game) {
-  lua_createtable(L, game.argc - game.script - 1, game.script + 1);
+  lua_createtable(L, game.argc - game.options.script - 1, game.options.script + 1);
   for (int i = 0; i < game.argc; ++i) {
     lua_pushstring(L, game.argv[i]);
-    lua_rawseti(L, -2, i - game.script);
+    lua_rawseti(L, -2, i - game.options.script);
   }
   lua_setglobal(L, "arg");
 }
@@ -96,11 +97,17 @@ void ReplaceExit(lua_State* L, Game& game) {
   lua_pop(L, 1);
 }
 
-void OnHook(lua_State* L, lua_Debug*) { StopWhenInterrupted(L); }
+void OnHook(lua_State* L, lua_Debug* event) {
+  if (event->event == LUA_HOOKCOUNT)
+    StopWhenInterrupted(L);
+  else
+    WatchCall(L, event);
+}
 
 // Coroutines have the hook of their maker. A script may use the hook for itself, and give it back.
-void SetHook(lua_State* L) {
-  if (lua_gethook(L) == nullptr) lua_sethook(L, OnHook, LUA_MASKCOUNT, kHookInterval);
+void SetHook(lua_State* L, const Options& options) {
+  if (lua_gethook(L) != nullptr) return;
+  lua_sethook(L, OnHook, LUA_MASKCOUNT | (options.strict ? kCallEvents : 0), kHookInterval);
 }
 
 // The steps run in protected mode, since the entry points may raise memory errors. They own nothing.
@@ -115,23 +122,24 @@ int Start(lua_State* L) {
   OpenPlayerTable(L, game.quit, IsTerminal());
   OpenOfflineTable(L);
   game.module.init(L);
-  SetHook(L);
+  if (game.options.strict) OpenStrict(L);
+  SetHook(L, game.options);
   return 0;
 }
 
 int RunScript(lua_State* L) {
   const Game& game = GameOf(L);
-  if (luaL_loadfile(L, game.argv[game.script]) != LUA_OK) return lua_error(L);
-  const int arguments = game.argc - game.script - 1;
+  if (luaL_loadfile(L, game.argv[game.options.script]) != LUA_OK) return lua_error(L);
+  const int arguments = game.argc - game.options.script - 1;
   luaL_checkstack(L, arguments + 1, "too many arguments");
-  for (int i = game.script + 1; i < game.argc; ++i) lua_pushstring(L, game.argv[i]);
+  for (int i = game.options.script + 1; i < game.argc; ++i) lua_pushstring(L, game.argv[i]);
   CallScript(L, arguments);
   return 0;
 }
 
 int RunFrame(lua_State* L) {
   const Game& game = GameOf(L);
-  SetHook(L);
+  SetHook(L, game.options);
   game.module.update(L);
   if (!PushFrameFunction(L)) return 0;
   lua_pushinteger(L, game.frame);
@@ -195,7 +203,7 @@ int PlayGame(int argc, char** argv, const Options& options) {
   CatchInterrupt();
   tarn::velora::offline::SetTrace(options.trace);
   tarn::velora::offline::SetLogColour(HasColour());
-  Game game{LoadModule(options.module ? *options.module : DefaultModule()), argc, argv, options.script};
+  Game game{LoadModule(options.module ? *options.module : DefaultModule()), argc, argv, options};
   const int status = PlayInNewState(game, options.frames);
   tarn::velora::offline::Stop();
   return Interrupted() ? kInterrupted : status;

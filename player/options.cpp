@@ -8,7 +8,7 @@
 #include <string>
 #include <system_error>
 
-#define USAGE "usage: velora-play [--module FILE] [--frames N] [--trace] SCRIPT [ARG...]\n"
+#define USAGE "usage: velora-play [--module FILE] [--frames N] [--strict] [--trace] SCRIPT [ARG...]\n"
 
 namespace player {
 namespace {
@@ -37,6 +37,8 @@ Options ParseOptions(int argc, char** argv) {
       options.module = value();
     } else if (option == "--frames") {
       options.frames = ParseFrames(value());
+    } else if (option == "--strict") {
+      options.strict = true;
     } else if (option == "--trace") {
       options.trace = true;
     } else if (option == "--help") {
@@ -63,6 +65,7 @@ Plays a Lua script against the module and the offline runtime, about 60 frames a
 
   --module FILE  load this library as the module, not the one beside the program
   --frames N     end when N frames have passed
+  --strict       say on stderr which calls the module refused for their arguments, and where they stand
   --trace        show the SDK calls on stderr
   --help         show this text
   --version      show the version

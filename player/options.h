@@ -14,6 +14,7 @@ struct Options {
   Task task = Task::kPlay;
   std::optional<std::filesystem::path> module;
   std::int64_t frames = std::numeric_limits<std::int64_t>::max();
+  bool strict = false;
   bool trace = false;
   int script = 1;  // where the script's name stands in argv; the script's own arguments follow
 };
