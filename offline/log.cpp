@@ -60,16 +60,15 @@ void AppendFormatted(std::string& line, const char* format, std::va_list argumen
   line.pop_back();
 }
 
-constexpr const char* kError = "ERROR";
-
-void Write(std::uint32_t channel, const char* level, const char* format, std::va_list arguments) {
+// `isError` makes the level stand out where that is wanted.
+void Write(std::uint32_t channel, const char* level, bool isError, const char* format, std::va_list arguments) {
   try {
     const std::string start = "[" + ChannelName(channel) + "] ";
     std::string rest = " ";
     if (format != nullptr) AppendFormatted(rest, format, arguments);
     std::string line = start + level + rest;
     if (TheLog().toStderr) {
-      const bool red = TheLog().colour && level == kError;
+      const bool red = isError && TheLog().colour;
       std::fprintf(stderr, "%s\n", red ? (start + "\033[31m" + level + "\033[0m" + rest).c_str() : line.c_str());
     }
     TheLog().lines.Add(std::move(line));
@@ -95,14 +94,14 @@ void Log(std::uint32_t channel, std::int32_t level, const char* format, ...) {
   std::snprintf(text, sizeof text, "%d", static_cast<int>(level));
   std::va_list arguments;
   va_start(arguments, format);
-  Write(channel, text, format, arguments);
+  Write(channel, text, false, format, arguments);
   va_end(arguments);
 }
 
 void LogError(std::uint32_t channel, const char* format, ...) {
   std::va_list arguments;
   va_start(arguments, format);
-  Write(channel, kError, format, arguments);
+  Write(channel, "ERROR", true, format, arguments);
   va_end(arguments);
 }
 
