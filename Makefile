@@ -14,7 +14,7 @@ demo: ## build, and play examples/tour.lua against the offline runtime
 	$(BUILD)/release/bin/velora-play examples/tour.lua
 
 .PHONY: test
-test: ## build and run every test: on Linux, as Windows programs under Wine, threads, a short fuzz run
+test: ## build and run every test: on Linux, as Windows programs under Wine, packages, threads, a short fuzz run
 	tools/setup test
 	cmake --preset sanitize
 	cmake --build --preset sanitize
@@ -22,6 +22,9 @@ test: ## build and run every test: on Linux, as Windows programs under Wine, thr
 	cmake --preset windows
 	cmake --build --preset windows
 	tools/wine_run ctest --preset windows
+	$(MAKE) package
+	tests/package/check $(BUILD)/package/*.tar.gz $(BUILD)/release
+	tools/wine_run tests/package/check $(BUILD)/package/*.zip $(BUILD)/windows
 	$(MAKE) threads
 	$(MAKE) fuzz SECONDS=15
 
@@ -30,6 +33,17 @@ windows: ## build for 64-bit Windows: the module's DLL, the offline runtime, the
 	tools/setup windows
 	cmake --preset windows
 	cmake --build --preset windows
+
+.PHONY: package
+package: ## pack what a host needs, for Linux and for 64-bit Windows, into build/package
+	tools/setup package
+	rm -rf $(BUILD)/package
+	cmake --preset release
+	cmake --build --preset release
+	cpack --preset release
+	cmake --preset windows
+	cmake --build --preset windows --target LuaVelora velora-play
+	cpack --preset windows
 
 .PHONY: threads
 threads: ## run the thread tests under the thread sanitizer
@@ -73,10 +87,10 @@ reference: ## write the pages of docs/reference/ from the annotations in types/
 .PHONY: format format-check
 format: ## lay the sources out with clang-format
 	tools/setup test
-	git ls-files '*.cpp' '*.h' | xargs clang-format -i
+	git ls-files '*.c' '*.cpp' '*.h' | xargs clang-format -i
 format-check: ## fail where clang-format would change something
 	tools/setup test
-	git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
+	git ls-files '*.c' '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
 
 .PHONY: clean
 clean: ## remove everything that was built

@@ -27,12 +27,14 @@ endif()
 target_include_directories(lua_headers SYSTEM INTERFACE ${source}/src)
 target_compile_definitions(lua_headers INTERFACE LUA_BUILD_AS_DLL)
 
+set(VELORA_LUA_HEADERS lua.h luaconf.h lualib.h lauxlib.h lua.hpp)  # the public ones
 file(GLOB sources ${source}/src/*.c)
 list(FILTER sources EXCLUDE REGEX "/luac?\\.c$")
 add_library(lua SHARED ${sources})
 set_target_properties(lua PROPERTIES PREFIX "" OUTPUT_NAME ${VELORA_LUA_DLL})
-target_compile_definitions(lua PRIVATE LUA_BUILD_AS_DLL)
-target_link_libraries(lua INTERFACE lua_headers)
+target_compile_definitions(lua PUBLIC LUA_BUILD_AS_DLL)
+target_include_directories(lua SYSTEM INTERFACE $<BUILD_INTERFACE:${source}/src>)
+list(TRANSFORM VELORA_LUA_HEADERS PREPEND ${source}/src/)
 
 # The same sources as C++, for the tests. Without LUA_BUILD_AS_DLL Debian's header gives the functions C names; exporting
 # everything makes up for its marks.

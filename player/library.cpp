@@ -17,7 +17,7 @@ namespace {
 #if defined(_WIN32)
 
 using Handle = HMODULE;
-constexpr const char* kModuleFile = "LuaVelora.dll";
+constexpr const char* kModulePlaces[] = {"LuaVelora.dll"};
 
 std::string LastError() { return std::system_category().message(static_cast<int>(GetLastError())); }
 
@@ -41,7 +41,7 @@ std::filesystem::path OwnPath() {
 #else
 
 using Handle = void*;
-constexpr const char* kModuleFile = "LuaVelora.so";
+constexpr const char* kModulePlaces[] = {"LuaVelora.so", "../lib/LuaVelora.so"};
 
 std::string LastError() {
   const char* text = dlerror();
@@ -74,6 +74,12 @@ Module LoadModule(const std::filesystem::path& file) {
   return module;
 }
 
-std::filesystem::path DefaultModule() { return OwnPath().replace_filename(kModuleFile); }
+std::filesystem::path DefaultModule() {
+  const std::filesystem::path folder = OwnPath().parent_path();
+  for (const char* place : kModulePlaces) {
+    if (std::filesystem::exists(folder / place)) return folder / place;
+  }
+  return folder / kModulePlaces[0];
+}
 
 }  // namespace player

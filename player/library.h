@@ -18,7 +18,8 @@ struct Module {
 // process ends. Throws std::runtime_error with one line that says what is wrong.
 Module LoadModule(const std::filesystem::path& file);
 
-// The module's library that lies beside the running program.
+// The module's library beside the running program or, where that is installed on Linux, in the folder lib next to its
+// own.
 std::filesystem::path DefaultModule();
 
 }  // namespace player
