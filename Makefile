@@ -92,6 +92,14 @@ format-check: ## fail where clang-format would change something
 	tools/setup test
 	git ls-files '*.c' '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
 
+# Every source of the module, the offline runtime and the player, with the headers that they include.
+.PHONY: lint
+lint: ## let clang-tidy look for faults in the sources; .clang-tidy says which
+	tools/setup lint
+	cmake --preset lint
+	git ls-files '*.cpp' ':!bench' ':!examples' ':!tests' | \
+	  xargs -P $$(nproc) -n 1 clang-tidy -p $(BUILD)/lint --quiet
+
 .PHONY: clean
 clean: ## remove everything that was built
 	rm -rf $(BUILD)

@@ -20,9 +20,11 @@ const char* ValueText::FormatNumber(lua_State* L, int index) {
     return number_;
   }
   lua_number2str(number_, sizeof number_, lua_tonumber(L, index));
-  if (number_[std::strspn(number_, "-0123456789")] == '\0') {  // looks like an integer: Lua marks it as a float
-    const char mark[] = {lua_getlocaledecpoint(), '0', '\0'};
-    std::strcat(number_, mark);
+  char* end = number_ + std::strspn(number_, "-0123456789");
+  if (*end == '\0') {  // looks like an integer: Lua marks it as a float
+    end[0] = lua_getlocaledecpoint();
+    end[1] = '0';
+    end[2] = '\0';
   }
   return number_;
 }

@@ -74,7 +74,8 @@ inline bool LiesInside(const std::string& text) {
   return false;  // Visual C++'s debug strings own a block for their iterators
 #else
   const auto* object = reinterpret_cast<const char*>(&text);
-  return !std::less<>()(text.data(), object) && std::less<>()(text.data(), object + sizeof text);
+  const auto* end = reinterpret_cast<const char*>(&text + 1);
+  return !std::less<>()(text.data(), object) && std::less<>()(text.data(), end);
 #endif
 }
 

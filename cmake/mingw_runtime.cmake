@@ -8,6 +8,9 @@ foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
   list(APPEND VELORA_MINGW_RUNTIME ${file})
 endforeach()
 
+# The same sources give the same files.
+add_link_options(-Wl,--no-insert-timestamp)
+
 # Fails the build where the target's objects use the SDK's data without __declspec(dllimport), which else shows at run
 # time only, far from its cause. Linked aside with the standard library inside, since the type information of that
 # library, used from its DLL, counts as such data too.

@@ -65,7 +65,7 @@ std::shared_ptr<SkuDetailsInfo> DescribeSku(const std::string& type, const std::
   std::snprintf(priceText, sizeof priceText, "%.2f", price);
   std::snprintf(microsText, sizeof microsText, "%.0f", std::round(price * 1e6));
   const Quiet quiet;
-  const auto sku = MakeSku({});
+  auto sku = MakeSku({});
   sku->set_productId(productId);
   sku->set_type(type);
   sku->set_title(product.productName.empty() ? productId : product.productName);

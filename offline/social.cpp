@@ -41,7 +41,7 @@ constexpr std::int32_t kDefaultRanks = 3;
 constexpr std::int32_t kMaxRanks = 100;
 
 std::shared_ptr<AccountInfo> NewAccount(const std::string& accountId, const std::string& nickname) {
-  const auto account = MakeAccount({});
+  auto account = MakeAccount({});
   account->set_accountId(accountId);
   account->set_nickname(nickname);
   account->set_idType("offline");
@@ -50,7 +50,7 @@ std::shared_ptr<AccountInfo> NewAccount(const std::string& accountId, const std:
 
 std::shared_ptr<AccountInfo> AccountOf(const Person& person) {
   const Quiet quiet;
-  const auto account = NewAccount(person.accountId, person.nickname);
+  auto account = NewAccount(person.accountId, person.nickname);
   account->set_relationType(person.relationType);
   account->set_inGame(person.inGame);
   return account;

@@ -1,6 +1,7 @@
 // The lifecycle wrappers whose rules do not follow from their operation's type.
 #include "wrappers/lifecycle.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace luavelora {
@@ -35,11 +36,11 @@ Outcome LumoSetOption(lua_State* L) {
   } else if (const char* text = TextArgument(L, 2)) {
     const std::size_t size = std::strlen(text);
     if (size < sizeof(std::int64_t))
-      std::memcpy(padded, text, size);
+      std::copy_n(text, size, padded);
     else
       value = text;
   } else if (lua_isboolean(L, 2)) {
-    padded[0] = lua_toboolean(L, 2) != 0;
+    padded[0] = lua_toboolean(L, 2) != 0 ? 1 : 0;
   } else {
     return Outcome::Error("zvLumoSetOption: unsupport value type.");
   }
