@@ -29,8 +29,7 @@ install(FILES ${CMAKE_BINARY_DIR}/LuaVeloraConfig.cmake ${CMAKE_BINARY_DIR}/LuaV
 
 install(FILES module/lua_velora.h DESTINATION include/LuaVelora/module)
 install(DIRECTORY platform DESTINATION include/LuaVelora)
-install(DIRECTORY docs examples DESTINATION share/LuaVelora)
-install(DIRECTORY types DESTINATION share/LuaVelora OPTIONAL)
+install(DIRECTORY docs examples types DESTINATION share/LuaVelora)
 if(WIN32)
   install(FILES ${VELORA_LUA_HEADERS} DESTINATION include/lua5.3)
 endif()
