@@ -18,8 +18,7 @@ struct Module {
 // process ends. Throws std::runtime_error with one line that says what is wrong.
 Module LoadModule(const std::filesystem::path& file);
 
-// The module's library beside the running program or, where that is installed on Linux, in the folder lib next to its
-// own.
+// The module's library: beside the running program or, as installed on Linux, in the folder ../lib.
 std::filesystem::path DefaultModule();
 
 }  // namespace player
