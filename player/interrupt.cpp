@@ -21,7 +21,9 @@ void OnInterrupt(int signal) {
 
 }  // namespace
 
-void CatchInterrupt() { std::signal(SIGINT, OnInterrupt); }
+void CatchInterrupt() {
+  if (std::signal(SIGINT, OnInterrupt) == SIG_IGN) std::signal(SIGINT, SIG_IGN);
+}
 
 bool Interrupted() { return interrupted; }
 

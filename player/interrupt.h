@@ -5,7 +5,8 @@
 
 namespace player {
 
-// From now on Ctrl-C is noted rather than deadly.
+// From now on Ctrl-C is noted rather than deadly. Where it was ignored, as in what a shell runs in the background, it
+// is.
 void CatchInterrupt();
 
 // Whether it was pressed.

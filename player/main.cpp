@@ -11,12 +11,12 @@
 #include <thread>
 
 #include "offline/control.h"
+#include "player/hook.h"
 #include "player/interrupt.h"
 #include "player/library.h"
 #include "player/offline_table.h"
 #include "player/options.h"
 #include "player/player_table.h"
-#include "player/strict.h"
 #include "player/terminal.h"
 
 namespace player {
@@ -26,7 +26,6 @@ constexpr int kFailed = 1;       // the script raised, or something could not be
 constexpr int kOutOfFrames = 2;  // all frames passed without player.quit
 constexpr int kBadArguments = 64;
 constexpr int kInterrupted = 130;
-constexpr int kHookInterval = 10'000;  // instructions
 
 using Clock = std::chrono::steady_clock;
 constexpr Clock::duration kFrameTime = std::chrono::microseconds(16667);
@@ -76,6 +75,8 @@ void Close(lua_State* L, Game& game) {
   lua_close(L);
 }
 
+int FinalStatus(int status) { return Interrupted() ? kInterrupted : status; }
+
 // os.exit([status]): ends the run there and then, but in the order in which every run ends. No pcall holds it up.
 int Exit(lua_State* L) {
   Game& game = *static_cast<Game*>(lua_touserdata(L, lua_upvalueindex(1)));
@@ -86,7 +87,7 @@ int Exit(lua_State* L) {
     Close(L, game);
   }
   tarn::velora::offline::Stop();
-  std::exit(static_cast<int>(status));
+  std::exit(FinalStatus(static_cast<int>(status)));
 }
 
 void ReplaceExit(lua_State* L, Game& game) {
@@ -95,19 +96,6 @@ void ReplaceExit(lua_State* L, Game& game) {
   lua_pushcclosure(L, Exit, 1);
   lua_setfield(L, -2, "exit");
   lua_pop(L, 1);
-}
-
-void OnHook(lua_State* L, lua_Debug* event) {
-  if (event->event == LUA_HOOKCOUNT)
-    StopWhenInterrupted(L);
-  else
-    WatchCall(L, event);
-}
-
-// Coroutines have the hook of their maker. A script may use the hook for itself, and give it back.
-void SetHook(lua_State* L, const Options& options) {
-  if (lua_gethook(L) != nullptr) return;
-  lua_sethook(L, OnHook, LUA_MASKCOUNT | (options.strict ? kCallEvents : 0), kHookInterval);
 }
 
 // The steps run in protected mode, since the entry points may raise memory errors. They own nothing.
@@ -122,8 +110,7 @@ int Start(lua_State* L) {
   OpenPlayerTable(L, game.quit, IsTerminal());
   OpenOfflineTable(L);
   game.module.init(L);
-  if (game.options.strict) OpenStrict(L);
-  SetHook(L, game.options);
+  OpenHook(L, game.options.strict);
   return 0;
 }
 
@@ -139,7 +126,6 @@ int RunScript(lua_State* L) {
 
 int RunFrame(lua_State* L) {
   const Game& game = GameOf(L);
-  SetHook(L, game.options);
   game.module.update(L);
   if (!PushFrameFunction(L)) return 0;
   lua_pushinteger(L, game.frame);
@@ -206,7 +192,7 @@ int PlayGame(int argc, char** argv, const Options& options) {
   Game game{LoadModule(options.module ? *options.module : DefaultModule()), argc, argv, options};
   const int status = PlayInNewState(game, options.frames);
   tarn::velora::offline::Stop();
-  return Interrupted() ? kInterrupted : status;
+  return FinalStatus(status);
 }
 
 int Main(int argc, char** argv) {

@@ -63,7 +63,7 @@ const char* const kVersion = "velora-play " VELORA_VERSION ", " LUA_VERSION "\n"
 const char* const kHelp = USAGE R"(
 Plays a Lua script against the module and the offline runtime, about 60 frames a second, until the script quits.
 
-  --module FILE  load this library as the module, not the one beside the program
+  --module FILE  load this library as the module, not the one that came with the program
   --frames N     end when N frames have passed
   --strict       say on stderr which calls the module refused for their arguments, and where they stand
   --trace        show the SDK calls on stderr
@@ -81,8 +81,8 @@ A script has two tables that it does not have in a game. `player` is this progra
   offline.download(operation, ...) call onInited, onProgress or onFinish of the download handlers
   offline.log()                    the log lines since the last time
 
-The exit status is the one that the script quits with, 1 where it raises an error or something cannot be loaded,
-2 when all frames have passed, 64 for a wrong command line, 130 after Ctrl-C.
+The exit status is the one that the script quits with, 1 where it raises an error outside callbacks or something cannot
+be loaded, 2 when all frames have passed, 64 for a wrong command line, 130 after Ctrl-C. A second Ctrl-C ends at once.
 )";
 
 }  // namespace player

@@ -51,6 +51,19 @@ class Line {
   std::size_t length_ = 0;
 };
 
+// The text with its control bytes, and the characters of `marks`, in the form that Lua reads.
+void AddEscaped(Line& line, std::string_view text, std::string_view marks) {
+  for (const char character : text) {
+    const auto byte = static_cast<unsigned char>(character);
+    if (character == '\n')
+      line.Add("\\n");
+    else if (byte < 0x20 || byte == 0x7f)
+      line.Add("\\%03u", static_cast<unsigned>(byte));
+    else
+      line.Add(marks.find(character) == marks.npos ? "%c" : "\\%c", character);
+  }
+}
+
 // The text as call lines quote it. A long one ends, between two characters of UTF-8, in dots.
 void AddQuoted(Line& line, std::string_view text) {
   constexpr std::size_t kLongest = 48;
@@ -58,15 +71,7 @@ void AddQuoted(Line& line, std::string_view text) {
   if (length < text.size())
     while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xc0U) == 0x80U) --length;
   line.Add("\"");
-  for (const char character : text.substr(0, length)) {
-    const auto byte = static_cast<unsigned char>(character);
-    if (character == '\n')
-      line.Add("\\n");
-    else if (byte < 0x20 || byte == 0x7f)
-      line.Add("\\%03u", static_cast<unsigned>(byte));
-    else
-      line.Add(character == '"' || character == '\\' ? "\\%c" : "%c", character);
-  }
+  AddEscaped(line, text.substr(0, length), "\"\\");
   line.Add(length < text.size() ? "...\"" : "\"");
 }
 
@@ -104,12 +109,14 @@ void AddValue(Line& line, lua_State* L, int index) {
   }
 }
 
-// Where the script stands that made the running call.
+// Where the script stands that made the running call; what was compiled without line numbers has none.
 void AddPosition(Line& line, lua_State* L) {
   lua_Debug caller;
   for (int level = 1; lua_getstack(L, level, &caller) != 0; ++level) {
     lua_getinfo(L, "Sl", &caller);
-    if (caller.currentline > 0) return line.Add("%s:%d", caller.short_src, caller.currentline);
+    if (*caller.what == 'C') continue;
+    AddEscaped(line, caller.short_src, "");
+    return caller.currentline > 0 ? line.Add(":%d", caller.currentline) : line.Add(":?");
   }
   line.Add("[C]");
 }

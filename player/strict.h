@@ -6,7 +6,7 @@
 
 namespace player {
 
-// The events of the debug hook that WatchCall is to be given.
+// The events of a debug hook that WatchCall is to be given.
 inline constexpr int kCallEvents = LUA_MASKCALL | LUA_MASKRET;
 
 // Learns the functions of the global `velora`, the module's table. May raise a memory error.

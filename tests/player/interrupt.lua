@@ -1,4 +1,5 @@
--- Ctrl-C, while the script waits for frames or, given "stuck", where nothing but the player can end it.
+-- Ctrl-C, while the script waits for frames or, given "stuck", where nothing but the player can end it; "twice" ends
+-- the process there and then.
 local function press()
   io.popen("kill -INT $PPID"):close()
 end
@@ -6,7 +7,11 @@ end
 velora.setOnLoginDone(print)
 atTheEnd = setmetatable({}, {__gc = function() print("the end", velora.getOnLoginDone() == nil) end})
 
-if ... == "stuck" then
+if ... == "twice" then
+  press()
+  press()
+  print("still here")
+elseif ... == "stuck" then
   press()
   coroutine.wrap(function()
     while true do
@@ -19,6 +24,7 @@ player.onFrame(function(frame)
   print("frame", frame)
   if frame == 2 then
     press()
+    for _ = 1, 50000 do end
     print("the frame goes on")
   end
 end)

@@ -1,11 +1,11 @@
 # Plays one script and compares exit status and output with what is expected. Variables: PLAYER (a command line),
-# ARGUMENTS, STATUS, and where they matter STDOUT and STDERR, files with the expected text, and PATTERN, a regular
-# expression for stdout.
+# ARGUMENTS, STATUS (a number, or CMake's text for the signal that ends it), and where they matter STDOUT and STDERR,
+# files with the expected text, and PATTERN, a regular expression for stdout.
 separate_arguments(PLAYER UNIX_COMMAND "${PLAYER}")
 separate_arguments(ARGUMENTS UNIX_COMMAND "${ARGUMENTS}")
 execute_process(COMMAND ${PLAYER} ${ARGUMENTS} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err
                 TIMEOUT 60)
-if(NOT status EQUAL STATUS)
+if(NOT status STREQUAL STATUS)
   message(FATAL_ERROR "exit status ${status}, not ${STATUS}\n${out}\n${err}")
 endif()
 

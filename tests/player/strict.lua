@@ -82,13 +82,24 @@ setmetatable({}, { __gc = function() v.zvLogin() v.isBinded() end })
 collectgarbage()
 load("velora.isBinded()", "=[a chunk]")()
 
--- The hook is the script's where it wants it, and comes back with the next frame.
-debug.sethook(print, "", 0)
+-- Code without line numbers, and a name that is no good for a terminal.
+load(string.dump(load("velora.isBinded()", "@stripped.lua"), true))()
+load("velora.isBinded()", "=\27[31m")()
+
+-- The hook is the script's where it wants it, and comes back afterwards.
+assert(debug.gethook() == nil)
+local function hook() end
+debug.sethook(hook, "c", 5)
 v.isBinded()
-debug.sethook(function() end, "c")
-v.isBinded()
+local given, mask, count = debug.gethook()
+assert(given == hook and mask == "c" and count == 5)
 debug.sethook()
-v.isBinded()
+coroutine.wrap(function() v.isBinded() end)()
+local resting = coroutine.create(function() v.isBinded() end)
+debug.sethook(resting, hook, "", 1000)
+assert(debug.gethook(resting) == hook and debug.gethook() == nil)
+debug.sethook(resting)
+coroutine.resume(resting)
 
 v.setOnReceiveMsgNotification(function() v.isBinded() end)
 offline.post("ReceiveMsgNotification")

@@ -1,0 +1,70 @@
+// The hook, and the two functions of the library `debug` that stand in for Lua's.
+#include "player/hook.h"
+
+#include "player/interrupt.h"
+#include "player/strict.h"
+
+namespace player {
+namespace {
+
+constexpr int kInterval = 10'000;  // instructions
+int hookMask = LUA_MASKCOUNT;
+
+void OnHook(lua_State* L, lua_Debug* event) {
+  if (event->event == LUA_HOOKCOUNT)
+    StopWhenInterrupted(L);
+  else
+    WatchCall(L, event);
+}
+
+lua_State* ThreadArgument(lua_State* L) { return lua_isthread(L, 1) ? lua_tothread(L, 1) : L; }
+
+// debug.sethook([thread,] hook, mask [, count]), or debug.sethook([thread]). The arguments stay, and so the thread.
+int SetScriptHook(lua_State* L) {
+  lua_State* thread = ThreadArgument(L);
+  const int arguments = lua_gettop(L);
+  luaL_checkstack(L, arguments + 1, nullptr);
+  lua_pushvalue(L, lua_upvalueindex(1));
+  for (int i = 1; i <= arguments; ++i) lua_pushvalue(L, i);
+  lua_call(L, arguments, 0);
+  if (lua_gethook(thread) == nullptr) lua_sethook(thread, OnHook, hookMask, kInterval);
+  return 0;
+}
+
+// debug.gethook([thread]). The player's hook is none, and none is shown as Lua shows it.
+int GetScriptHook(lua_State* L) {
+  if (lua_gethook(ThreadArgument(L)) == OnHook) {
+    lua_pushnil(L);
+    lua_pushliteral(L, "");
+    lua_pushinteger(L, 0);
+    return 3;
+  }
+  lua_settop(L, 1);
+  lua_pushvalue(L, lua_upvalueindex(1));
+  lua_insert(L, 1);
+  lua_call(L, 1, 3);
+  return 3;
+}
+
+// Puts `function`, which has Lua's own as its upvalue, into the table on top of the stack.
+void Replace(lua_State* L, const char* name, lua_CFunction function) {
+  lua_getfield(L, -1, name);
+  lua_pushcclosure(L, function, 1);
+  lua_setfield(L, -2, name);
+}
+
+}  // namespace
+
+void OpenHook(lua_State* L, bool reportRefusedCalls) {
+  if (reportRefusedCalls) {
+    OpenStrict(L);
+    hookMask |= kCallEvents;
+  }
+  lua_getglobal(L, "debug");
+  Replace(L, "sethook", SetScriptHook);
+  Replace(L, "gethook", GetScriptHook);
+  lua_pop(L, 1);
+  lua_sethook(L, OnHook, hookMask, kInterval);
+}
+
+}  // namespace player

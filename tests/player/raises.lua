@@ -1,1 +1,0 @@
-error("as it must")
