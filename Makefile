@@ -44,6 +44,7 @@ package: ## pack what a host needs, for Linux and for 64-bit Windows, into build
 	cmake --preset windows
 	cmake --build --preset windows --target LuaVelora velora-play
 	cpack --preset windows
+	rm -rf $(BUILD)/package/_CPack_Packages
 
 .PHONY: threads
 threads: ## run the thread tests under the thread sanitizer
@@ -84,22 +85,25 @@ reference: ## write the pages of docs/reference/ from the annotations in types/
 	tools/setup test
 	tools/make_reference
 
+# The files in the repository that match, of which there must be some.
+sources = $(or $(shell git ls-files $(1)),$(error git lists no sources))
+
 .PHONY: format format-check
 format: ## lay the sources out with clang-format
 	tools/setup test
-	git ls-files '*.c' '*.cpp' '*.h' | xargs clang-format -i
+	clang-format -i $(call sources,'*.c' '*.cpp' '*.h')
 format-check: ## fail where clang-format would change something
 	tools/setup test
-	git ls-files '*.c' '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
+	clang-format --dry-run --Werror $(call sources,'*.c' '*.cpp' '*.h')
 
 # Every source of the module, the offline runtime and the player, with the headers that they include.
 .PHONY: lint
 lint: ## let clang-tidy look for faults in the sources; .clang-tidy says which
 	tools/setup lint
 	cmake --preset lint
-	git ls-files '*.cpp' ':!bench' ':!examples' ':!tests' | \
-	  xargs -P $$(nproc) -n 1 clang-tidy -p $(BUILD)/lint --quiet 2>$(BUILD)/lint/stderr || \
-	  { grep -v ' warnings generated' $(BUILD)/lint/stderr >&2; exit 1; }
+	printf '%s\n' $(call sources,'*.cpp' ':!bench' ':!examples' ':!tests') | \
+	  xargs -P $$(nproc) -n 1 clang-tidy -p $(BUILD)/lint --quiet 2>$(BUILD)/lint/stderr; \
+	  status=$$?; ! grep -vE '^[0-9]+ warnings? generated' $(BUILD)/lint/stderr >&2 && exit $$status
 
 .PHONY: clean
 clean: ## remove everything that was built

@@ -3,7 +3,7 @@
 #   lib/                  the libraries to load (Linux) or to link with (Windows), and the CMake package
 #   include/LuaVelora/    module/lua_velora.h, platform/
 #   include/lua5.3/       Lua's headers, on Windows
-#   share/LuaVelora/      docs/, examples/, types/
+#   share/LuaVelora/      README.md, docs/, examples/, types/; on Windows licences/
 include(CMakePackageConfigHelpers)
 set(package lib/cmake/LuaVelora)
 
@@ -30,11 +30,16 @@ install(FILES ${CMAKE_BINARY_DIR}/LuaVeloraConfig.cmake ${CMAKE_BINARY_DIR}/LuaV
 install(FILES module/lua_velora.h DESTINATION include/LuaVelora/module)
 install(DIRECTORY platform DESTINATION include/LuaVelora)
 install(DIRECTORY docs examples types DESTINATION share/LuaVelora)
+install(FILES README.md DESTINATION share/LuaVelora)
 if(WIN32)
   install(FILES ${VELORA_LUA_HEADERS} DESTINATION include/lua5.3)
 endif()
 if(MINGW)
   install(FILES ${VELORA_MINGW_RUNTIME} DESTINATION bin)
+  # The terms of the libraries of others among the DLLs, where the system has them.
+  foreach(origin gcc-mingw-w64-base mingw-w64-common liblua5.3-dev)
+    install(FILES /usr/share/doc/${origin}/copyright DESTINATION share/LuaVelora/licences RENAME ${origin}.txt OPTIONAL)
+  endforeach()
 endif()
 
 string(TOLOWER ${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR} system)

@@ -36,4 +36,4 @@ velora.setOnOrderCosumeDone(function(order) -- the event is spelt like this
   placeOrder()
 end)
 
-velora.zvQuerySkuDetails("inapp", { "oil.60" })
+velora.zvQuerySkuDetails(velora.ITEM_TYPE_CONSUMABLE, { "oil.60" })

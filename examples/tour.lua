@@ -91,7 +91,9 @@ local function shop()
     product:set_productPrice(row[3])
     velora.OrderInfo.regProduct(product)
   end
-  for _, item in ipairs(ask("QuerySkuDetailsFinished", velora.zvQuerySkuDetails, "inapp", { "oil.60", "oil.300" })) do
+  local ids = { "oil.60", "oil.300" }
+  local items = ask("QuerySkuDetailsFinished", velora.zvQuerySkuDetails, velora.ITEM_TYPE_CONSUMABLE, ids)
+  for _, item in ipairs(items) do
     show(item:get_productId(), item:get_title() .. ", " .. item:get_price() .. " " .. item:get_priceCurrencyCode())
   end
 

@@ -1,6 +1,6 @@
 // The module's three entry points. Call each on the thread that owns the Lua state; each leaves the Lua stack as it
-// found it. None reports a failure of its own; where memory runs out, a Lua error leaves it, and so does a
-// finaliser's error that comes up in InitLuaVelora.
+// found it. None reports a failure of its own; where memory runs out, a Lua error leaves it, and so does an
+// exception of the SDK's own, and a finaliser's error that comes up in InitLuaVelora.
 #pragma once
 
 struct lua_State;

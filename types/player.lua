@@ -38,7 +38,8 @@ function offline.log() end
 
 ---Sets what an operation answers from now on. Where an event is the answer, it takes its flag, code or order status
 ---from this.
----@param name string an operation, as `"zvLogin"`; one of a record has its class in front, as `"OrderInfo.get_aid"`
+---@param name string an operation, as `"zvLogin"`; one of a record has its class in front, as `"OrderInfo.get_aid"`,
+---PadEvent's being called `"PadRecord.get_x"`
 ---@param value string|boolean|integer|nil false: a failure, no text or no record; nil: the default again
 function offline.answer(name, value) end
 

@@ -6,17 +6,22 @@
 -- - Functions return at once. What takes longer is answered by a callback, on a later frame; "answered by LoginDone"
 --   means the callback set with `setOnLoginDone`.
 -- - A call with wrong arguments does nothing and gives nil. Few raise an error instead; where one does, it is said.
---   Arguments beyond those listed are ignored.
+--   Arguments beyond those listed are ignored. Any function raises an error where a list that it is given is longer than
+--   1,048,576 elements.
 -- - A text is a string, or a number, which is taken as its string. It ends before its first zero byte.
--- - An integer has to be one for Lua: 3 is one, 3.0 and "3" are not. The SDK gets its low 32 bits, with sign.
+-- - An integer has to be one for Lua: 3 is one, 3.0 and "3" are not. The SDK gets its low 32 bits, with sign. Setters of
+--   objects are not so strict, see below.
 -- - What can be nil though all arguments are right is marked `?`: a result that the SDK does not have, an object or
---   bytes that an event came without.
--- - Tables come as copies: changing one changes nothing but that table.
+--   bytes that an event came without. In a list of objects an element can be missing where the SDK gave an empty one;
+--   `ipairs` ends there.
+-- - Tables come as copies, but for that of `getSyncDownloadHandler`: changing one changes nothing but that table.
 --
--- Objects of the seven classes have methods, as `order:get_orderId()`; `tostring` gives a readable form. A setter takes
--- what it can use: a value that is no text is stored as the empty string, one that is no number as 0, and of any value
--- as a boolean its truth counts. A setter of a map or list leaves out elements that it cannot use, and raises an error
--- where the value is no table; `set_arrPriceLocaleId` does it the other way about.
+-- Objects of the seven classes have methods, as `order:get_orderId()`; `tostring` gives a readable form of all but
+-- PadEvent, and raises an error where the SDK has none. A setter takes what it can use: a value that is no text is stored
+-- as the empty string, one that does not convert to the field's kind of number as 0 (3.0 and "3" do, 2.5 is no integer),
+-- and of any value as a boolean its truth counts. A setter of a map or list leaves out elements that it cannot use, but
+-- stores 0 for a value of an integer map, and raises an error where the value is no table; `set_arrPriceLocaleId` does it
+-- the other way about: it does nothing for what is no table, and raises an error for an element without text.
 
 -- ## The table
 
@@ -190,7 +195,7 @@ function velora.getOnRegister() end
 ---@field AUTH_MOWANG integer
 
 -- ### Login channel names
--- Strings that name the ways to log in, as `getAuthTypeName` gives them.
+-- Strings that name the ways to log in, to compare with `getAuthTypeName`.
 
 ---@class velora
 ---@field ZV_AUTH_NAME_UNLOGIN string
@@ -227,7 +232,8 @@ function velora.getOnRegister() end
 
 -- ## Account
 
----Binds the guest account in use to a real one; answered by LoginDone, with `LOGIN_DONE_BIND_OK` among its codes.
+---Binds the guest account in use to a real one; answered by LoginDone, with a code for the binding:
+---`LOGIN_DONE_BIND_OK`, `LOGIN_DONE_VELORA_BIND_OK` or `LOGIN_DONE_VELORA_BIND_FAIL`.
 function velora.zvGuestBind() end
 
 ---Whether the account is bound to what `name` names.
@@ -431,12 +437,12 @@ function velora.zvLumoSetOption(name, value) end
 -- ## Player information
 
 ---Stores what the game knows of the player, under a key, for the SDK.
----@param key velora.Text one of `USERINFO_*`
+---@param key velora.Text one of `USERINFO_*`, but for `USERINFO_STAGE_*`, which are values
 ---@param value velora.Text
 function velora.setUserInfo(key, value) end
 
 ---What is stored under a key.
----@param key velora.Text one of `USERINFO_*`
+---@param key velora.Text one of `USERINFO_*`, but for `USERINFO_STAGE_*`, which are values
 ---@return string?
 function velora.getUserInfo(key) end
 
@@ -578,7 +584,7 @@ function velora.zvCallbackFail(text) end
 function velora.zvUpdateApi(first, second) end
 
 ---Sets the command line that the SDK keeps; nil, no argument and an empty text clear it. Any other value, and a second
----argument, raise an error.
+---argument after a text, raise an error.
 ---@param text? velora.Text
 function velora.setCmdLineParameter(text) end
 
@@ -597,7 +603,7 @@ function velora.zvJFLog(text) end
 -- ## Orders and store items
 
 ---Asks the store about its items; answered by QuerySkuDetailsFinished. An id that is no text raises an error.
----@param itemType velora.Text
+---@param itemType velora.Text one of `ITEM_TYPE_*`
 ---@param productIds velora.Text[]
 function velora.zvQuerySkuDetails(itemType, productIds) end
 
@@ -876,8 +882,7 @@ velora.SkuDetailsInfo = {}
 function velora.SkuDetailsInfo.new(text1, text2, text3, text4, text5, text6, text7) end
 
 -- # Friends and ranks
--- Accounts of other players, invitations, rankings, achievements and quests. In a list of accounts an element can be
--- missing where the SDK gave an empty one; `ipairs` ends there.
+-- Accounts of other players, invitations, rankings, achievements and quests.
 
 -- ## Friends
 
@@ -1001,7 +1006,7 @@ function velora.zvDisplayAchievement() end
 function velora.zvUpdateEvent(name, count) end
 
 ---Opens a view of quests; QuestCompleted tells of those that are completed. Raises an error where the argument is no
----table; elements that are no integers count as 0.
+---table; elements that do not convert to an integer count as 0.
 ---@param quests integer[]
 function velora.zvDisplayQuests(quests) end
 
@@ -1526,11 +1531,11 @@ function velora.getOnShowViewRewarded() end
 -- ## QR codes
 
 ---Makes a QR code as a picture; answered by CreateQRCodeDone.
----@param text velora.Text what the code says
+---@param text velora.Text what the code is to say
 ---@param width integer
 ---@param height integer
----@param path velora.Text the file to write
----@param icon? any given a text, the picture to put into the code; anything else is ignored
+---@param path velora.Text passed to the SDK as it is; its answer names a file
+---@param icon? any a text is passed to the SDK as it is; anything else is ignored
 function velora.zvCreateQRCode(text, width, height, path, icon) end
 
 ---Scans a QR code; answered by CodeScannerFinish.
@@ -1699,7 +1704,7 @@ function velora.getCCWindowState() end
 
 ---Gives the SDK game voice data.
 ---@param data velora.Text any bytes
----@param size? integer how many of them; 0, anything that is no integer and more than there are mean all
+---@param size? integer how many of them; 0, a negative one, more than there are and what is no integer mean all
 ---@param sampleRate? integer 48000 where it is no integer
 ---@param bitsPerSample? integer 16 where it is no integer
 ---@param channels? integer 2 where it is no integer
@@ -1822,7 +1827,7 @@ function velora.download.disableDownloadFinish2() end
 ---@param handler velora.SyncDownloadHandler
 function velora.download.setSyncDownloadHandler(handler) end
 
----A table with the handler's three functions; nil when none is set.
+---The module's own table of the handler's three functions, which is not to be changed; nil when none is set.
 ---@return velora.SyncDownloadHandler?
 function velora.download.getSyncDownloadHandler() end
 
@@ -1924,7 +1929,7 @@ function velora.getOnDownloadFinish2() end
 ---@field C_MAX_PRICE integer the highest price, cut to an integer
 
 -- ## Account, device and session keys
--- Strings: property names, and values of `WEB_LOGIN_STATUS`.
+-- Strings: property names, `INVALID_UID`, which stands for none, and values of `WEB_LOGIN_STATUS`.
 
 ---@class velora
 ---@field INVALID_UID string
@@ -2133,7 +2138,7 @@ function velora.getOnDownloadFinish2() end
 ---@field ENABLE_FORCE_DOWNLOAD string
 
 -- ## Launcher, advertising, carrier and external channel
--- Strings: property names. `CCTYPE_*` are what `getCCTypeByImsi` gives, `CHANNEL_UNKNOW` an unknown channel.
+-- Strings: property names. `CCTYPE_*` are to compare with `getCCTypeByImsi`, `CHANNEL_UNKNOW` an unknown channel.
 
 ---@class velora
 ---@field LAUNCHER_NAME string

@@ -1,7 +1,6 @@
 # Plays every Lua snippet of a page and compares what it prints, on both streams, with the text block that follows it.
-# A snippet begins with a comment that names its file. Variables: PLAYER (a command line), PAGE, FOLDER (for the
-# snippets).
-separate_arguments(PLAYER UNIX_COMMAND "${PLAYER}")
+# A snippet begins with a comment that names its file. Variables: PLAYER (a list: a program and what goes with it), PAGE,
+# FOLDER (for the snippets).
 file(MAKE_DIRECTORY ${FOLDER})
 file(READ ${PAGE} rest)
 set(snippets 0)
