@@ -1,7 +1,6 @@
 // Storing one constant raw in the table on top of the stack, which stays there. Each may raise.
 #pragma once
 
-#include <cstdint>
 #include <lua.hpp>
 #include <string>
 

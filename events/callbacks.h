@@ -1,13 +1,14 @@
 // The callback slots: one per event type, kept in the callback table "VELORA" under the type number.
 #pragma once
 
+#include <iterator>
+
 #include "binding/boundary.h"
 #include "platform/binding_helpers.h"
 
 namespace luavelora {
 
 inline constexpr const char* kCallbackTable = "VELORA";
-inline constexpr int kEventTypes = 60;
 
 // Stores argument 1 in the slot when it is a function; anything else leaves the slot as it is.
 template <int slot>
@@ -33,5 +34,8 @@ inline constexpr luaL_Reg kCallbackAccessors[] = {
 #include "platform/events.def"
 #undef VELORA_EVENT
 };
+
+// Types, and slots, go from 0 to one less.
+inline constexpr int kEventTypes = static_cast<int>(std::size(kCallbackAccessors) / 2);
 
 }  // namespace luavelora

@@ -52,7 +52,6 @@ constexpr DeliverFunction kDeliver[] = {
 #include "platform/events.def"
 #undef VELORA_EVENT
 };
-static_assert(std::size(kDeliver) == kEventTypes);
 
 // The rows stand in the order of their type numbers.
 constexpr int kTypes[] = {

@@ -10,7 +10,11 @@ velora.download.setSyncDownloadHandler{
     print(percent .. " %")
   end,
   onFinish = function(name, bytes) -- bytes is a string of any bytes, or nil where there are none
-    print(name .. " is here, " .. #bytes .. " bytes, the last is " .. bytes:byte(-1))
+    if bytes then
+      print(name .. " is here, " .. #bytes .. " bytes, the last is " .. bytes:byte(-1))
+    else
+      print(name .. " did not come")
+    end
   end,
 }
 -- The module keeps the three functions, not the table that they came in.

@@ -160,7 +160,7 @@ local function download()
       io.write(redraw:format(line))
       io.flush()
     end,
-    onFinish = function(name, bytes) show("download", name .. " is here, " .. #bytes .. " bytes") end,
+    onFinish = function(name, bytes) show("download", name .. " is here, " .. #(bytes or "") .. " bytes") end,
   }
   offline.download("onInited")
   for percent = 0, 100, 10 do

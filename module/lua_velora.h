@@ -1,6 +1,7 @@
-// The module's three entry points. Call each on the thread that owns the Lua state; each leaves the Lua stack as it
-// found it. None reports a failure of its own; where memory runs out, a Lua error leaves it, and so does an
-// exception of the SDK's own, and a finaliser's error that comes up in InitLuaVelora.
+// The module's three entry points. Call each on the thread that owns the Lua state, with its main state, not a
+// coroutine; each leaves the Lua stack as it found it. None reports a failure of its own. No C++ exception leaves them:
+// where memory runs out or the SDK throws, a Lua error does, and so does a finaliser's error that comes up in
+// InitLuaVelora.
 #pragma once
 
 struct lua_State;
@@ -25,7 +26,7 @@ LUA_VELORA_API void InitLuaVelora(struct lua_State* L);
 // are logged and never reach the host.
 LUA_VELORA_API void UpdateLuaVelora(struct lua_State* L);
 
-// Forgets the 60 event callbacks. Call it once at shutdown, while the Lua state still exists. The table `velora`,
+// Forgets all event callbacks. Call it once at shutdown, while the Lua state still exists. The table `velora`,
 // objects that scripts hold and a registered download handler stay as they are.
 LUA_VELORA_API void DeinitLuaVelora(struct lua_State* L);
 

@@ -26,10 +26,7 @@ struct FieldMap : std::unordered_map<std::string, FieldScalar> {
   FieldMap(const StringMap& map) : unordered_map(map.begin(), map.end()) {}
   FieldMap(const IntMap& map) : unordered_map(map.begin(), map.end()) {}
 };
-struct FieldList : std::vector<FieldScalar> {
-  using vector::vector;
-  FieldList(const StringList& list) : vector(list.begin(), list.end()) {}
-};
+using FieldList = std::vector<FieldScalar>;
 using FieldValue = std::variant<FieldScalar, FieldMap, FieldList>;
 using Fields = std::unordered_map<std::string, FieldValue>;
 
@@ -70,7 +67,8 @@ VELORA_SDK_API std::shared_ptr<PadRecord> MakePad(const Fields& fields);
 // Gives zvGetCheckedOrders' list as it stands, empty references allowed.
 VELORA_SDK_API void SetCheckedOrders(std::vector<std::shared_ptr<OrderInfo>> orders);
 
-// The registered download handlers, in the order of their registration.
+// The registered download handlers, in the order of their registration. They belong to who registered them, and are
+// valid until they are removed.
 VELORA_SDK_API std::vector<download::SyncDownloadHandler*> Handlers();
 
 // The records of all classes that are alive.

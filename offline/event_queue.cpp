@@ -1,7 +1,6 @@
 // The event queue and the runtime's thread.
 #include "offline/event_queue.h"
 
-#include <algorithm>
 #include <atomic>
 #include <condition_variable>
 #include <cstdio>

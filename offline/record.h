@@ -2,7 +2,6 @@
 // record_fields.inc makes a class's members and accessors from its .def file.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <mutex>

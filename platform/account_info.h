@@ -8,7 +8,6 @@
 #include <string>
 
 #include "platform/import.h"
-#include "platform/types.h"
 
 namespace tarn::velora {
 

@@ -1,4 +1,5 @@
-// The SDK's download service. Everything here is called on the thread of Lua.
+// The SDK's download service. Everything here is called on the thread of Lua; what it throws derives from
+// std::exception.
 #pragma once
 
 #include <cstdint>
@@ -24,8 +25,11 @@ class VELORA_SDK_TYPE SyncDownloadHandler {
   ~SyncDownloadHandler() = default;
 };
 
+// Starts the service; it answers by its first event.
 VELORA_SDK_API void init();
+// Hands the service a free-form command; it answers by events.
 VELORA_SDK_API void extendFunc(const std::string& text);
+// No DownloadFinish2 is queued from now on.
 VELORA_SDK_API void disableDownloadFinish2();
 
 // Each fills `out` and reports whether there is a text.

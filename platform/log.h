@@ -1,4 +1,5 @@
-// The log library: named channels, printf-style lines.
+// The log library: named channels, printf-style lines. Any thread may call it; what it throws derives from
+// std::exception.
 #pragma once
 
 #include <cstdint>
@@ -16,10 +17,10 @@ namespace tarn::log {
 // Gives the id under which lines for the channel of that name are logged; the same name may be registered again.
 VELORA_SDK_API std::uint32_t RegisterChannel(const char* name);
 
-// Writes one line at `level` (the module only uses 0). Any thread may call it.
+// Writes one line at `level` (the module only uses 0).
 VELORA_SDK_API void Log(std::uint32_t channel, std::int32_t level, const char* format, ...) VELORA_PRINTF(3, 4);
 
-// Writes one error line. Any thread may call it.
+// Writes one error line.
 VELORA_SDK_API void LogError(std::uint32_t channel, const char* format, ...) VELORA_PRINTF(2, 3);
 
 }  // namespace tarn::log

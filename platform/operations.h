@@ -1,6 +1,6 @@
 // The SDK's operations. All are called on the thread of Lua and return at once; what takes longer is answered by an
 // event. References and pointers are valid during the call only; a shared reference may be copied and kept.
-// An operation that fills `out` reports whether there is a text.
+// An operation that fills `out` reports whether there is a text. What an operation throws derives from std::exception.
 #pragma once
 
 #include <cstddef>

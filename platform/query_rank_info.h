@@ -7,7 +7,6 @@
 #include <string>
 
 #include "platform/import.h"
-#include "platform/types.h"
 
 namespace tarn::velora {
 

@@ -2,12 +2,10 @@
 // destroyed by its shared reference's own deleter; its operations may be called from any thread that holds one.
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <string>
 
 #include "platform/import.h"
-#include "platform/types.h"
 
 namespace tarn::velora {
 

@@ -1,5 +1,5 @@
 // What the player's Lua functions share: the boundary that turns C++ exceptions into Lua errors, and the tests of
-// arguments that answer with such an exception.
+// arguments, which throw ArgumentError and raise nothing.
 #pragma once
 
 #include <lua.hpp>

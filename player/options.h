@@ -12,10 +12,10 @@ struct Options {
   enum class Task { kPlay, kHelp, kVersion };
 
   Task task = Task::kPlay;
-  std::optional<std::filesystem::path> module;
-  std::int64_t frames = std::numeric_limits<std::int64_t>::max();
-  bool strict = false;
-  bool trace = false;
+  std::optional<std::filesystem::path> module;  // the library to load, where it is not the one that came along
+  std::int64_t frames = std::numeric_limits<std::int64_t>::max();  // after which the run ends
+  bool strict = false;                                             // report refused calls
+  bool trace = false;                                              // show SDK calls
   int script = 1;  // where the script's name stands in argv; the script's own arguments follow
 };
 

@@ -54,10 +54,9 @@ void PrepareOutput() {
 
 bool IsTerminal() { return isTerminal; }
 bool HasColour() { return hasColour; }
-const char* Red() { return Code("\033[31m"); }
 const char* Yellow() { return Code("\033[33m"); }
 const char* Plain() { return Code("\033[0m"); }
 
-void Complain(const char* text) { std::fprintf(stderr, "%svelora-play:%s %s\n", Red(), Plain(), text); }
+void Complain(const char* text) { std::fprintf(stderr, "%svelora-play:%s %s\n", Code("\033[31m"), Plain(), text); }
 
 }  // namespace player

@@ -1,4 +1,4 @@
-// What the program writes to, and how it marks what matters there.
+// What the program writes to, and how it marks what matters there. For the main thread.
 #pragma once
 
 namespace player {
@@ -13,8 +13,7 @@ bool IsTerminal();
 // Whether stderr shows colours: it is a terminal, and the user has not set NO_COLOR.
 bool HasColour();
 
-// The codes around a word on stderr that tells of an error or a warning; empty where there are no colours.
-const char* Red();
+// The codes around a word on stderr that tells of a warning; empty where there are no colours.
 const char* Yellow();
 const char* Plain();
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <utility>
 
 #include "binding/closing.h"
 #include "platform/binding_helpers.h"

@@ -1,8 +1,6 @@
 // What the order class needs of products: holders made from records and records made from holders.
 #pragma once
 
-#include <memory>
-
 #include "records/holder.h"
 
 namespace luavelora {

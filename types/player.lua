@@ -37,9 +37,8 @@ function offline.calls() end
 function offline.log() end
 
 ---Sets what an operation answers from now on. Where an event is the answer, it takes its flag, code or order status
----from this.
----@param name string an operation, as `"zvLogin"`; one of a record has its class in front, as `"OrderInfo.get_aid"`,
----PadEvent's being called `"PadRecord.get_x"`
+---from this. The methods of PadEvent are called `"PadRecord.get_x"`.
+---@param name string an operation, as `"zvLogin"`; one of a record has its class in front, as `"OrderInfo.get_aid"`
 ---@param value string|boolean|integer|nil false: a failure, no text or no record; nil: the default again
 function offline.answer(name, value) end
 
@@ -48,7 +47,8 @@ function offline.answer(name, value) end
 ---@param ... any what the callback is to receive; an object can be a table of its fields, as `{ keyCode = 96 }`
 function offline.post(event, ...) end
 
----Calls a function of the download handler, here and now.
+---Calls a function of the download handler, here and now; without a handler nothing happens. Downloads that are told by
+---events are played with `offline.post`.
 ---@param operation "onInited"|"onProgress"|"onFinish"
 ---@param text? string for `onProgress` and `onFinish`
 ---@param bytes? string for `onFinish`

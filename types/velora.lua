@@ -1800,7 +1800,7 @@ function velora.download.init() end
 ---@return string?
 function velora.download.query() end
 
----Gives the service a command.
+---Gives the service a command. Offline DownloadProgress and DownloadFinish answer with its text.
 ---@param command velora.Text
 function velora.download.extendFunc(command) end
 

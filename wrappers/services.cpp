@@ -32,10 +32,14 @@ Outcome CreateQRCode(lua_State* L) {
       });
 }
 
+namespace {
+
 // The integer at `index`, or `otherwise` where there is none.
 lua_Integer OptionalInteger(lua_State* L, int index, lua_Integer otherwise) {
   return lua_isinteger(L, index) ? lua_tointeger(L, index) : otherwise;
 }
+
+}  // namespace
 
 // The data goes to the SDK without a copy; the size never reaches beyond it.
 Outcome PushGameVoice(lua_State* L) {

@@ -1,12 +1,10 @@
 // A fuzz target whose input is a program: calls of every function that a script sees, with every kind of argument;
 // events; calls of the download handler; frames; collections; allocations that fail. Whatever the program, the host
 // must stay sound and everything must be given back at its end.
-#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
-#include <vector>
 
 #include "download/handler.h"
 #include "platform/event.h"

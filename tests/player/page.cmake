@@ -32,7 +32,7 @@ while(found)
   endif()
   take_until("```\n")
   file(WRITE ${FOLDER}/${name} "${snippet}")
-  execute_process(COMMAND ${PLAYER} --frames 600 ${name} WORKING_DIRECTORY ${FOLDER} TIMEOUT 60
+  execute_process(COMMAND ${PLAYER} --strict --frames 600 ${name} WORKING_DIRECTORY ${FOLDER} TIMEOUT 60
                   RESULT_VARIABLE status OUTPUT_VARIABLE printed ERROR_VARIABLE printed)
   if(NOT status EQUAL 0 OR NOT printed STREQUAL taken)
     message(FATAL_ERROR "${name} ended with ${status} and printed\n${printed}\ninstead of\n${taken}")
