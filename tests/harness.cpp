@@ -171,6 +171,50 @@ void Host::FramesUntil(const std::string& expression) {
   }
 }
 
+namespace {
+
+// The same values wherever a layout has a member of that name.
+template <class Layout>
+void Fill(Layout& event) {
+  using namespace tarn::velora;
+  static constexpr unsigned char kBytes[] = {'a', 0, 'b'};
+  static constexpr ByteBlock kBlock{kBytes, sizeof kBytes};
+  const std::string cut("te\0xt", 5);
+  if constexpr (requires { event.code; }) event.code = -2147483647 - 1;
+  if constexpr (requires { event.flag; }) event.flag = 2;
+  if constexpr (requires { event.text; }) event.text = cut;
+  if constexpr (requires { event.first; }) event.first = "a", event.second = cut;
+  if constexpr (requires { event.texts; }) event.texts = {std::string(60, 'a'), cut, ""};
+  if constexpr (requires { event.keyCode; }) event.keyCode = -96;
+  if constexpr (requires { event.pressure; }) event.pressure = 0.25f;
+  if constexpr (requires { event.x; }) event.x = 0.5f, event.y = -1;
+  if constexpr (requires { event.pad; }) event.pad = offline::MakePad({});
+  if constexpr (requires { event.order; }) event.order = offline::MakeOrder({});
+  if constexpr (requires { event.account; }) event.account = offline::MakeAccount({});
+  if constexpr (requires { event.accounts; })
+    event.accounts = {offline::MakeAccount({}), nullptr, offline::MakeAccount({})};
+  if constexpr (requires { event.skus; }) event.skus = {offline::MakeSku({}), nullptr, offline::MakeSku({})};
+  if constexpr (requires { event.bytes; }) event.bytes = &kBlock;
+}
+
+template <class Layout>
+std::shared_ptr<tarn::velora::Event> Make(int type, bool filled) {
+  auto event = std::make_shared<Layout>(type);
+  if (filled) Fill(*event);
+  return event;
+}
+
+}  // namespace
+
+std::shared_ptr<tarn::velora::Event> MakeEvent(int type, bool filled) {
+  constexpr decltype(&Make<tarn::velora::PlainEvent>) kMake[] = {
+#define VELORA_EVENT(number, name, Layout) Make<tarn::velora::Layout>,
+#include "platform/events.def"
+#undef VELORA_EVENT
+  };
+  return kMake[type](type, filled);
+}
+
 void Check(Host& host, const std::vector<Fact>& facts) {
   tarn::velora::offline::TakeCalls();
   for (const Fact& fact : facts) {

@@ -4,11 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <lua.hpp>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "module/lua_velora.h"
 #include "offline/control.h"
+#include "platform/event.h"
 
 namespace tests {
 
@@ -56,6 +58,9 @@ class Host {
 
 // Renders the value at `index`, as Host::Run says.
 std::string Render(lua_State* L, int index);
+
+// A new event of the catalogue's type `type`, with nothing of its payload set or all of it.
+std::shared_ptr<tarn::velora::Event> MakeEvent(int type, bool filled);
 
 // One row of a table of facts: a chunk, what it gives, and the SDK calls that it makes.
 struct Fact {

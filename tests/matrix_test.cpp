@@ -82,6 +82,8 @@ const char* const kSignatures = R"(
     i = function(v) return ('%d'):format((v + (1 << 31) & 0xffffffff) - (1 << 31)) end,
     n = function(v) return ('%.14g'):format(tonumber(v)) end,
     b = tostring,
+    O = function() return 'OrderInfo("o")' end, S = function() return 'ShareInfo()' end,
+    Q = function() return 'QueryRankInfo()' end,
   }
   special = {getPropStr = true, zvSetFloatBtnVisible = true, zvPushGameVoice = true, zvCreateQRCode = true}
 )";

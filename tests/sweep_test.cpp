@@ -2,14 +2,12 @@
 #include <gtest/gtest.h>
 
 #include "download/handler.h"
-#include "platform/event.h"
 #include "tests/harness.h"
 
 namespace tests {
 namespace {
 
 namespace offline = tarn::velora::offline;
-using namespace tarn::velora;
 
 using Sweep = VeloraTest;
 
@@ -21,43 +19,9 @@ struct Scenario {
   void (*post)();
 };
 
+// One event of each layout that takes memory.
 void PostEveryLayout() {
-  auto pad = offline::MakePad({});
-  auto text = std::make_shared<CodeTextEvent>(0);
-  text->text = std::string(100, 't');
-  offline::Post(text);
-  auto pair = std::make_shared<TextPairEvent>(29);
-  pair->first = std::string(50, 'a');
-  offline::Post(pair);
-  auto texts = std::make_shared<TextListEvent>(47);
-  texts->texts = {"a", "b", std::string(60, 'c')};
-  offline::Post(texts);
-  auto stick = std::make_shared<PadStickEvent>(8);
-  stick->pad = pad;
-  offline::Post(stick);
-  auto pressure = std::make_shared<PadPressureEvent>(7);
-  pressure->pad = pad;
-  offline::Post(pressure);
-  auto key = std::make_shared<PadKeyEvent>(5);
-  key->pad = pad;
-  offline::Post(key);
-  auto order = std::make_shared<OrderEvent>(17);
-  order->order = offline::MakeOrder({});
-  offline::Post(order);
-  auto account = std::make_shared<AccountEvent>(43);
-  account->account = offline::MakeAccount({});
-  offline::Post(account);
-  auto accounts = std::make_shared<AccountListEvent>(41);
-  accounts->accounts = {account->account, nullptr, offline::MakeAccount({})};
-  offline::Post(accounts);
-  auto skus = std::make_shared<SkuListEvent>(26);
-  skus->skus = {offline::MakeSku({}), offline::MakeSku({})};
-  offline::Post(skus);
-  static constexpr unsigned char kBytes[] = "bytes";
-  static constexpr ByteBlock kBlock{kBytes, sizeof kBytes};
-  auto bytes = std::make_shared<TextBytesEvent>(59);
-  bytes->bytes = &kBlock;
-  offline::Post(bytes);
+  for (int type : {0, 5, 7, 8, 10, 17, 26, 29, 41, 43, 47, 59}) offline::Post(MakeEvent(type, true));
 }
 
 const char* const kCallEverySetterAndGetter = R"(

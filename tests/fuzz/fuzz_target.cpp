@@ -7,7 +7,7 @@
 #include <string>
 
 #include "download/handler.h"
-#include "platform/event.h"
+#include "events/callbacks.h"
 #include "tests/harness.h"
 
 namespace {
@@ -63,6 +63,17 @@ const char* const kPrelude = R"(
     function() setmetatable({}, {__gc = function() error('finaliser') end}) end,
     function() return deeds[1](velora.ShareInfo.new(), velora.OrderInfo.new(1.5)) end,
   }
+  local plain = {t = 'text', i = 7, n = 1.5, b = true}
+  local function value(kind)
+    return plain[kind] or kind == 'l' and {'a', 2.5} or kind == 'h' and handler or pool[1]
+  end
+  local patterns = {'', 't', 'tt', 'ttt', 'ti', 'tiit', 'tiitt', 'tn', 'ttb', 'tb', 'i', 'b', 'l', 'tl', 'p', 'pt', 'pi',
+    'pl', 'ttttttt', 'h'}
+  function good(pattern)
+    local values, n = {}, 0
+    for kind in patterns[pattern % #patterns + 1]:gmatch('.') do n = n + 1 values[n] = value(kind) end
+    return table.unpack(values, 1, n)
+  end
   handler = {onInited = deeds[1], onProgress = deeds[2], onFinish = deeds[4]}
   claims = setmetatable({'a', 2.5}, {__len = function() return claim end}))";
 
@@ -128,33 +139,9 @@ void PushValue(lua_State* L, Program& program, int depth) {
 
 // Arguments that good callers give: functions are reached whatever the fuzzer has learned.
 void PushGoodArguments(lua_State* L, unsigned pattern) {
-  const char* const patterns[] = {"",  "t", "tt", "ttt", "ti", "tiit", "tiitt", "tn", "ttb",     "tb",
-                                  "i", "b", "l",  "tl",  "p",  "pt",   "pi",    "pl", "ttttttt", "h"};
-  for (const char* kind = patterns[pattern % std::size(patterns)]; *kind != '\0'; ++kind) {
-    switch (*kind) {
-      case 't':
-        lua_pushstring(L, "text");
-        break;
-      case 'i':
-        lua_pushinteger(L, 7);
-        break;
-      case 'n':
-        lua_pushnumber(L, 1.5);
-        break;
-      case 'b':
-        lua_pushboolean(L, 1);
-        break;
-      case 'l':
-        luaL_dostring(L, "return {'a', 2.5}");
-        break;
-      case 'h':
-        lua_getglobal(L, "handler");
-        break;
-      default:
-        PushGlobalElement(L, "pool", 1);
-        break;
-    }
-  }
+  lua_getglobal(L, "good");
+  lua_pushinteger(L, pattern);
+  lua_call(L, 1, LUA_MULTRET);
 }
 
 // Calls the function on the stack below its arguments and keeps what it gives.
@@ -178,37 +165,10 @@ void CallFunction(lua_State* L, Program& program) {
   CallAndKeep(L, function);
 }
 
-template <class Layout>
-std::shared_ptr<Layout> Fill(std::shared_ptr<Layout> event, Program& program) {
-  static constexpr unsigned char kBytes[] = "by\0es";
-  static const ByteBlock kBlock{kBytes, sizeof kBytes};
-  const bool whole = program.Below(4) != 0;
-  if constexpr (requires { event->code; }) event->code = static_cast<std::int32_t>(program.Byte());
-  if constexpr (requires { event->flag; }) event->flag = static_cast<std::uint8_t>(program.Byte());
-  if constexpr (requires { event->text; }) event->text = program.Text();
-  if constexpr (requires { event->first; }) event->first = program.Text();
-  if constexpr (requires { event->texts; }) event->texts.assign(program.Below(4), program.Text());
-  if constexpr (requires { event->pad; }) event->pad = whole ? offline::MakePad({}) : nullptr;
-  if constexpr (requires { event->order; }) event->order = whole ? offline::MakeOrder({}) : nullptr;
-  if constexpr (requires { event->account; }) event->account = whole ? offline::MakeAccount({}) : nullptr;
-  if constexpr (requires { event->accounts; })
-    event->accounts.assign(program.Below(4), whole ? offline::MakeAccount({}) : nullptr);
-  if constexpr (requires { event->skus; }) event->skus.assign(program.Below(4), offline::MakeSku({}));
-  if constexpr (requires { event->bytes; }) event->bytes = whole ? &kBlock : nullptr;
-  return event;
-}
-
 void PostEvent(Program& program) {
   const int type = static_cast<int>(program.Below(64)) - 2;
-  switch (type) {
-#define VELORA_EVENT(number, name, Layout) \
-  case number:                             \
-    return offline::Post(Fill(std::make_shared<Layout>(number), program));
-#include "platform/events.def"
-#undef VELORA_EVENT
-    default:
-      return offline::Post(std::make_shared<Event>(type));
-  }
+  const bool known = type >= 0 && type < luavelora::kEventTypes;
+  offline::Post(known ? tests::MakeEvent(type, program.Below(4) != 0) : std::make_shared<Event>(type));
 }
 
 void ListenToEverything(lua_State* L, Program& program) {

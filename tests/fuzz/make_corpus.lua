@@ -21,7 +21,7 @@ end
 for deed = 0, DEEDS - 1 do
   local bytes = {LISTEN, deed}
   for type = 0, EVENTS - 1 do
-    for _, byte in ipairs{POST, type, 1, 2, 3, 4, 1, 65, 0} do bytes[#bytes + 1] = byte end
+    for _, byte in ipairs{POST, type, 1} do bytes[#bytes + 1] = byte end
   end
   bytes[#bytes + 1], bytes[#bytes + 2] = FRAME, COLLECT
   write("events-" .. deed, bytes)

@@ -63,16 +63,3 @@ fails("OrderInfo.get_acid", 1)
 fails("get_aid", 1)
 fails("ProductInfo.get_productId", "text")
 fails("", nil)
-
-local names = {}
-for name, value in pairs(velora) do
-  if type(value) == "function" and not name:find("^[gs]etOn%u") then names[#names + 1] = name end
-end
-for class, object in pairs{OrderInfo = order, AccountInfo = account, ShareInfo = velora.ShareInfo.new(),
-    QueryRankInfo = velora.QueryRankInfo.new(), SkuDetailsInfo = velora.SkuDetailsInfo.new(1, 2, 3, 4, 5, 6, 7)} do
-  for name in pairs(debug.getmetatable(object).__index) do
-    if name:find("^[gs]et_") then names[#names + 1] = class .. "." .. name end
-  end
-end
-for _, name in ipairs(names) do offline.answer(name, nil) end
-print(#names .. " names are known")
