@@ -53,16 +53,17 @@ threads: ## run the thread tests under the thread sanitizer
 	cmake --build --preset thread --target velora_thread_tests
 	$(BUILD)/thread/bin/velora_thread_tests
 
-# The fuzzer reads the inputs that are checked in and keeps what it learns in the build folder.
+# The fuzzer starts from inputs that reach everything and keeps what it learns in the build folder.
 SECONDS := 60
 .PHONY: fuzz
 fuzz: ## let the fuzzer look for trouble, SECONDS=60 long
 	tools/setup fuzz
 	cmake --preset fuzz
 	cmake --build --preset fuzz --target velora_fuzz
-	mkdir -p $(BUILD)/fuzz/corpus
+	mkdir -p $(BUILD)/fuzz/corpus $(BUILD)/fuzz/first
+	lua5.3 tests/fuzz/first_inputs.lua $(BUILD)/fuzz/first
 	$(BUILD)/fuzz/bin/velora_fuzz -max_total_time=$(SECONDS) -max_len=2048 -timeout=30 -rss_limit_mb=4096 \
-	  -artifact_prefix=$(BUILD)/fuzz/ -print_final_stats=1 $(BUILD)/fuzz/corpus tests/fuzz/corpus
+	  -artifact_prefix=$(BUILD)/fuzz/ -print_final_stats=1 $(BUILD)/fuzz/corpus $(BUILD)/fuzz/first
 
 .PHONY: coverage
 coverage: ## measure which lines of the module's folders the tests reach

@@ -2,8 +2,9 @@
 // or calls into scripts in the middle of a wrapper.
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <set>
 #include <stdexcept>
+#include <utility>
 
 #include "download/handler.h"
 #include "platform/event.h"
@@ -15,16 +16,29 @@ namespace {
 namespace offline = tarn::velora::offline;
 using namespace tarn::velora;
 
-// What the next operation named so does at its start.
-const char* hookedOperation = nullptr;
-enum class Deed { kThrow, kRunOutOfMemory, kCallScript } hookedDeed;
+// What the SDK's operations do at their start, the first few left out; a script is called once.
+enum class Deed { kNothing, kThrow, kRunOutOfMemory, kCallScript } deed = Deed::kNothing;
+
+std::set<std::string> hooked;  // the operations that did it
+bool justNow = false;          // one did since the deed was set
+lua_Integer leftOut = 0;
 
 void Hook(const char* operation) {
-  if (hookedOperation == nullptr || std::strcmp(operation, hookedOperation) != 0) return;
-  if (hookedDeed == Deed::kThrow) throw std::runtime_error("the SDK broke");
-  if (hookedDeed == Deed::kRunOutOfMemory) throw std::bad_alloc();
-  hookedOperation = nullptr;
+  if (deed == Deed::kNothing || leftOut-- > 0) return;
+  hooked.insert(operation);
+  justNow = true;
+  if (deed == Deed::kThrow) throw std::runtime_error("the SDK broke");
+  if (deed == Deed::kRunOutOfMemory) throw std::bad_alloc();
+  deed = Deed::kNothing;
   luavelora::downloadHandler.onProgress(operation);
+}
+
+// deed(n, k) lets the SDK do Deed n from then on, k operations left out, and tells whether one did the deed before.
+int SetDeed(lua_State* L) {
+  deed = static_cast<Deed>(luaL_checkinteger(L, 1));
+  leftOut = luaL_optinteger(L, 2, 0);
+  lua_pushboolean(L, std::exchange(justNow, false));
+  return 1;
 }
 
 class Hostile : public VeloraTest {
@@ -32,8 +46,10 @@ class Hostile : public VeloraTest {
   void SetUp() override {
     VeloraTest::SetUp();
     offline::SetCallHook(Hook);
-    hookedOperation = nullptr;
+    deed = Deed::kNothing;
+    hooked.clear();
     host = std::make_unique<Host>();
+    lua_register(host->L, "deed", SetDeed);
     host->Run(R"(
       order, share, product = velora.OrderInfo.new('o'), velora.ShareInfo.new('s'), velora.ProductInfo.new()
       function noop() end
@@ -44,19 +60,19 @@ class Hostile : public VeloraTest {
         collectgarbage('setpause', 0) collectgarbage('setstepmul', 1000000)
         pcall(plant)
       end
-      -- Calls every function of the module in many ways; errors are the caller's own business.
-      function callAll(o, s, p)
+      -- Calls every function of the module in many ways, each time with `call`, whose business errors are.
+      function callAll(call, o, s, p)
         for name, f in pairs(velora) do
           if type(f) == 'function' then
-            pcall(f) pcall(f, o) pcall(f, s) pcall(f, {1.5, 2.5, k = 1.5}) pcall(f, 1.5, {1.5, 'x'})
-            pcall(f, 1.5, 2.5) pcall(f, 1.5, 1) pcall(f, 1.5, 1, 2, 3.5, 4.5) pcall(f, 1.5, 2.5, true)
+            call(f) call(f, o) call(f, s) call(f, {1.5, 2.5, k = 1.5}) call(f, 1.5, {1.5, 'x'})
+            call(f, 1.5, 2.5) call(f, 1.5, 1) call(f, 1.5, 1, 2, 3.5, 4.5) call(f, 1.5, 2.5, true)
           elseif type(f) == 'table' then
             for key, g in pairs(f) do
               if key ~= '__gc' then
                 for _, self in ipairs{o, s, p} do
-                  pcall(g, self, 1.5) pcall(g, self, {1.5, 2.5, k = 1.5}) pcall(g, self)
+                  call(g, self, 1.5) call(g, self, {1.5, 2.5, k = 1.5}) call(g, self)
                 end
-                pcall(g, 1.5, 2, 3, 4, 5, 6, 7.5)
+                call(g, 1.5, 2, 3, 4, 5, 6, 7.5)
               end
             end
           end
@@ -101,7 +117,7 @@ TEST_F(Hostile, FinalisersThatRaiseOrInterfereWhileTheModuleWorks) {
     host->Run(
         "order, share, product = velora.OrderInfo.new('o'), velora.ShareInfo.new('s'), velora.ProductInfo.new() "
         "share:set_textMsg{k = 'v'} share:set_toUserList{'a', 'b'} product:set_sdkPids{k = 'v'}");
-    host->Run(std::string("haunt(function() ") + action + " end) pcall(callAll, order, share, product)");
+    host->Run(std::string("haunt(function() ") + action + " end) pcall(callAll, pcall, order, share, product)");
     StopHaunting();
     ExpectSound();
   }
@@ -178,82 +194,65 @@ TEST_F(Hostile, CallbacksThatMisbehave) {
   }
 }
 
-// No C++ exception of the SDK reaches Lua as one.
+// No C++ exception of the SDK reaches Lua as one: each becomes an error of the script, and whatever was begun is
+// undone.
 TEST_F(Hostile, AnSdkThatThrows) {
-  const char* const calls[][2] = {
-      {"zvLogin", "velora.zvLogin()"},
-      {"getChannel", "velora.getChannel()"},
-      {"getPropStr", "velora.getPropStr('a', 'b')"},
-      {"zvDisplayQuests", "velora.zvDisplayQuests{1}"},
-      {"zvCheckOrder", "velora.zvCheckOrder(order)"},
-      {"zvShare", "velora.zvShare(share)"},
-      {"zvGetCheckedOrders", "velora.zvGetCheckedOrders()"},
-      {"OrderInfo.New", "velora.OrderInfo.new('x')"},
-      {"OrderInfo.get_aid", "order:get_aid()"},
-      {"OrderInfo.set_count", "order:set_count(1)"},
-      {"OrderInfo.get_sdkPids", "order:get_sdkPids()"},
-      {"OrderInfo.regProduct", "velora.OrderInfo.regProduct(product)"},
-      {"ShareInfo.set_textMsg", "tostring(share)"},
-      {"ShareInfo.get_toUserList", "velora.ShareInfo.new()"},
-      {"query", "velora.download.query()"},
-      {"addSyncDownloadHandler",
-       "velora.download.setSyncDownloadHandler{onInited = noop, onProgress = noop, onFinish = noop}"},
-  };
-  for (const auto& [operation, call] : calls) {
-    hookedOperation = operation;
-    hookedDeed = Deed::kThrow;
-    EXPECT_NE(host->Run(call).find("the SDK broke"), std::string::npos) << call;
-    hookedDeed = Deed::kRunOutOfMemory;
-    EXPECT_NE(host->Run(call).find("not enough memory"), std::string::npos) << call;
-    hookedOperation = nullptr;
-    EXPECT_EQ(host->Run("return velora.download.getSyncDownloadHandler()"), "");
+  for (const auto& [what, text] :
+       {std::pair{Deed::kThrow, "the SDK broke"}, {Deed::kRunOutOfMemory, "not enough memory"}}) {
+    EXPECT_EQ(host->Run("what, text = " + std::to_string(static_cast<int>(what)) + ", '" + text + "'"), "");
+    EXPECT_EQ(host->Run(R"(
+      callAll(function(f, ...)
+        local k, failed = 0
+        repeat
+          deed(what, k)
+          local ok, message = pcall(f, ...)
+          failed, k = deed(0), k + 1
+          assert(not failed or not ok and message:find(text, 1, true), message)
+        until not failed
+      end, order, share, product)
+      for k = 0, 2 do
+        deed(what, k)
+        assert(not pcall(velora.download.setSyncDownloadHandler, {onInited = noop, onProgress = noop, onFinish = noop}))
+        assert(deed(0) and velora.download.getSyncDownloadHandler() == nil)
+      end)"),
+              "");
     ExpectSound();
   }
-  hookedOperation = "SwapEvents";
-  hookedDeed = Deed::kThrow;
+  EXPECT_GT(hooked.size(), 250u);
+  deed = Deed::kThrow;
   EXPECT_EQ(host->Frame(), "the SDK broke");
+  deed = Deed::kNothing;
 }
 
-// The script's handler runs in the middle of a wrapper and finishes the very object in hand.
+// The script's handler runs in the middle of a call and finishes the very objects in hand.
 TEST_F(Hostile, AnSdkThatCallsScriptsInTheMiddleOfACall) {
-  const char* const calls[][2] = {
-      {"zvCheckOrder", "velora.zvCheckOrder(order)"},
-      {"zvShare", "velora.zvShare(share)"},
-      {"ShareInfo.set_linkParams", "velora.zvCheckArgs(share)"},
-      {"ShareInfo.set_toUserList", "return tostring(share)"},
-      {"OrderInfo.get_aid", "return order:get_aid()"},
-      {"OrderInfo.set_aid", "order:set_aid('x')"},
-      {"OrderInfo.toString", "return tostring(order)"},
-      {"OrderInfo.obj2Json", "return order:obj2Json()"},
-      {"OrderInfo.hasProduct", "return order:hasProduct()"},
-      {"OrderInfo.set_arrPriceLocaleId", "order:set_arrPriceLocaleId{'x'}"},
-      {"ShareInfo.set_shareData", "share:set_shareData{a = 'b'}"},
-      {"OrderInfo.regProduct", "velora.OrderInfo.regProduct(product)"},
-      {"ProductInfo.toString", "return tostring(product)"},
-      {"getUserInfo", "return velora.getUserInfo('x')"},
-      {"zvDeleteInviters", "velora.zvDeleteInviters{'x'}"},
-  };
-  for (const auto& [operation, call] : calls) {
-    host->Run(R"(
-      order, share, product = velora.OrderInfo.new('o'), velora.ShareInfo.new('s'), velora.ProductInfo.new()
-      velora.OrderInfo.regProduct(product) product:set_sdkPids{a = 'b'} share:set_toUserList{'a'}
-      ran = false
-      velora.download.setSyncDownloadHandler{onInited = noop, onFinish = noop, onProgress = function()
-        ran = true
-        share:set_linkParams{k = 'v'} share:set_toUserList{'b'} product:set_sdkPids{}
-        velora.OrderInfo.__gc(order) velora.ShareInfo.__gc(share) velora.ProductInfo.__gc(product)
-        velora.download.setSyncDownloadHandler()
-        collectgarbage()
-        error('in the middle')
-      end})");
-    hookedOperation = operation;
-    hookedDeed = Deed::kCallScript;
-    host->Run(call);
-    EXPECT_EQ(host->Run("return ran"), "true") << operation;
-    EXPECT_EQ(host->Run("return order:get_aid(), share:get_title(), product:get_productId()"), "nil, nil") << operation;
-    ExpectSound();
-  }
-  host->Run("order = nil share = nil product = nil collectgarbage()");
+  EXPECT_EQ(host->Run(R"(
+    local handler = {onInited = noop, onFinish = noop, onProgress = function()
+      share:set_linkParams{k = 'v'} share:set_toUserList{'b'} product:set_sdkPids{}
+      velora.OrderInfo.__gc(order) velora.ShareInfo.__gc(share) velora.ProductInfo.__gc(product)
+      velora.download.setSyncDownloadHandler()
+      collectgarbage()
+      error('in the middle')
+    end}
+    local o, s, p = order, share, product
+    callAll(function(f, ...)
+      local k, called = 0
+      repeat
+        order, share, product = velora.OrderInfo.new('o'), velora.ShareInfo.new('s'), velora.ProductInfo.new()
+        velora.OrderInfo.regProduct(product) product:set_sdkPids{a = 'b'} share:set_toUserList{'a'}
+        velora.download.setSyncDownloadHandler(handler)
+        local fresh, arguments = {[o] = order, [s] = share, [p] = product}, table.pack(...)
+        for i = 1, arguments.n do arguments[i] = fresh[arguments[i]] or arguments[i] end
+        deed(3, k)
+        pcall(f, table.unpack(arguments, 1, arguments.n))
+        called, k = deed(0), k + 1
+        assert(not called or f == velora.download.setSyncDownloadHandler or
+          select('#', order:get_aid()) + select('#', share:get_title()) == 0 and not product:get_productId())
+      until not called
+    end, o, s, p))"),
+            "");
+  ExpectSound();
+  EXPECT_GT(hooked.size(), 250u);
 }
 
 // Lua finalises nothing that is made while the state closes; what it owns is given back all the same.
@@ -295,14 +294,10 @@ TEST_F(Hostile, FinalisersThatCollectWhileTheStateCloses) {
            "local s = velora.ShareInfo.new('late') s:set_toUserList(setmetatable({'a'}, {__len = function() "
            "collectgarbage() return 1 end}))",
            "collectgarbage('restart') collectgarbage('setpause', 0) for i = 1, 50 do velora.OrderInfo.new('x') end",
-           "local o = velora.OrderInfo.new('x') hooked() velora.zvCheckOrder(o) o:set_aid(1.5)",
+           "local o = velora.OrderInfo.new('x') deed(3) velora.zvCheckOrder(o) o:set_aid(1.5)",
        }) {
     host = std::make_unique<Host>();
-    lua_register(host->L, "hooked", [](lua_State*) {
-      hookedOperation = "zvCheckOrder";
-      hookedDeed = Deed::kCallScript;
-      return 0;
-    });
+    lua_register(host->L, "deed", SetDeed);
     host->Run(
         "velora.download.setSyncDownloadHandler{onInited = print, onFinish = print, "
         "onProgress = function() collectgarbage() end}");

@@ -1,6 +1,6 @@
 -- Writes the fuzzer's first inputs into the folder that is given: programs that call every function with every set of
--- good arguments, and programs that post every event. Run it with lua5.3 when functions were added.
-local folder = assert(arg[1], "usage: lua5.3 make_corpus.lua FOLDER")
+-- good arguments, and programs that post every event.
+local folder = assert(arg[1], "usage: lua5.3 first_inputs.lua FOLDER")
 local FRAME, CALL, LISTEN, COLLECT, POST = 0, 6, 9, 11, 12
 local FUNCTIONS, PATTERNS, EVENTS, DEEDS = 512, 20, 64, 11
 
