@@ -20,7 +20,7 @@ const char* const kValues = R"(
           P = velora.ProductInfo.new(), A = velora.AccountInfo.new()}
   values = {
     true, false, 0, 1, -1, 2^31 | 0, (2^31 | 0) - 1, -(2^31 | 0) - 1, 2^32 | 0, math.maxinteger, math.mininteger,
-    0.5, 3.0, -0.0, 1e308, 1/0, -1/0, 0/0, '12', '0x10', ' 5 ', '1e3', 'text', '', 'a\0b', ('x'):rep(70000),
+    0.5, 3.0, -0.0, 1e15, -1.5e-7, 3.14159265358979, 1e308, 1/0, -1/0, 0/0, '12', '0x10', ' 5 ', '1e3', 'text', '', 'a\0b', ('x'):rep(70000),
     {}, {'a', 2, 3.5}, {1, nil, 3}, {[1] = 'a', [2] = {}, x = 1}, {a = 'b', [1.5] = true}, selfish,
     claim(2), claim(-5), claim(0/0), claim('x'), claim(1 << 40), print, coroutine.create(print), light, io.stdout,
     finished, live.O, live.S, live.Q, live.P, live.A,

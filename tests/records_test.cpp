@@ -209,22 +209,17 @@ TEST_F(Records, AFinishedObjectIsAWrongSelf) {
 }
 
 TEST_F(Records, ConstructorsAnswerAsTheirClassSays) {
-  Check(
-      host,
-      {
-          {"velora.ProductInfo.new({}, 1)", "", {}},
-          {"velora.OrderInfo.new(42)", "", {"New(\"42\")"}},
-          {"velora.OrderInfo.new('a\\0b')", "", {"New(\"a\")"}},
-          {"velora.OrderInfo.new({})", "error: test:1: velora.OrderInfo must be init with productId of type str!", {}},
-          {"velora.OrderInfo.new()", "error: test:1: velora.OrderInfo must be init with productId of type str!", {}},
-          {"return velora.SkuDetailsInfo.new(1, 2, 3, 4, 5, 6)", "", {}},
-          {"return velora.SkuDetailsInfo.new(1, 2, 3, 4, 5, 6, {})", "", {}},
-          {"return velora.SkuDetailsInfo.new(1, true, 3, 4, 5, 6, 7)", "", {}},
-          {"return velora.SkuDetailsInfo.new(print, 2, 3, 4, 5, 6, 7)", "", {}},
-          {"velora.SkuDetailsInfo.new(1, 'b', 3, 4, 5, 6.0, 7, {})",
-           "",
-           {"New(\"1\", \"b\", \"3\", \"4\", \"5\", \"6.0\", \"7\")"}},
-      });
+  const char* const kNoId = "error: test:1: velora.OrderInfo must be init with productId of type str!";
+  Check(host, "velora.ProductInfo.new({}, 1)", "");
+  Check(host, "velora.OrderInfo.new(42)", "", R"(New("42"))");
+  Check(host, R"(velora.OrderInfo.new('a\0b'))", "", R"(New("a"))");
+  Check(host, "velora.OrderInfo.new({})", kNoId);
+  Check(host, "velora.OrderInfo.new()", kNoId);
+  for (const char* bad :
+       {"1, 2, 3, 4, 5, 6", "1, 2, 3, 4, 5, 6, {}", "1, true, 3, 4, 5, 6, 7", "print, 2, 3, 4, 5, 6, 7"})
+    Check(host, (std::string("return velora.SkuDetailsInfo.new(") + bad + ")").c_str(), "");
+  Check(host, "velora.SkuDetailsInfo.new(1, 'b', 3, 4, 5, 6.0, 7, {})", "",
+        R"(New("1", "b", "3", "4", "5", "6.0", "7"))");
   for (const std::string name : {"QueryRankInfo", "ShareInfo", "AccountInfo"}) {
     const std::string make = "return velora." + name + ".new";
     const std::vector<std::string> none;
@@ -272,50 +267,33 @@ TEST_F(Records, ANewProductHasItsDefaults) {
 }
 
 TEST_F(Records, TheProductRegistryIsReachedThroughTheOrderClass) {
-  Check(
-      host,
-      {
-          {"product = velora.ProductInfo.new() product:set_productId('gold.60') product:set_productName('Gold') "
-           "product:set_productPrice(0.99) product:set_exchangeRatio(10) product:set_channelGoodsTypes{a = 1}",
-           "",
-           {}},
-          {"return velora.OrderInfo.getProductList()", "", {"getProductList()"}},
-          {"return velora.OrderInfo.regProduct(product)",
-           "",
-           {"regProduct(\"gold.60\", \"Gold\", 0.99000000953674, 10)"}},
-          {"product:set_sdkPids{k = 'v'} return velora.OrderInfo.regProduct(product, 1)",
-           "",
-           {"regProduct(\"gold.60\", \"Gold\", 0.99000000953674, 10, {\"k\": \"v\"})"}},
-          {"return velora.OrderInfo.regProduct(7)", "", {"regProduct(\"7\")"}},
-          {"return velora.OrderInfo.regProduct({}, 1)", "", {}},
-          {"return velora.OrderInfo.hasProduct('gold.60'), velora.OrderInfo.hasProduct('x')",
-           "true, false",
-           {"hasProduct(\"gold.60\")", "hasProduct(\"x\")"}},
-          {"return velora.OrderInfo.hasProduct(), velora.OrderInfo.hasProduct({}), "
-           "velora.OrderInfo.hasProduct(product)",
-           "false, false, false",
-           {}},
-          {"return velora.OrderInfo.new('gold.60'):hasProduct()",
-           "true",
-           {"New(\"gold.60\")", "hasProduct(OrderInfo(\"gold.60\"))"}},
-          {"list = velora.OrderInfo.getProductList() return list",
-           "{\"7\"=userdata, \"gold.60\"=userdata}",
-           {"getProductList()"}},
-          {"local p = list['gold.60'] p:set_productName('Silver') p:set_sdkPids{} return p:get_exchangeRatio(), "
-           "velora.OrderInfo.getProductList()['gold.60']:get_productName()",
-           "10, \"Gold\"",
-           {"getProductList()"}},
-          {"return velora.OrderInfo.getProductList()['gold.60']:get_sdkPids()", "{\"k\"=\"v\"}", {"getProductList()"}},
-          {"velora.OrderInfo.setProductType('gold.60', 2) return velora.OrderInfo.getProductType('gold.60')",
-           "2",
-           {"setProductType(\"gold.60\", 2)", "getProductType(\"gold.60\")"}},
-          {"velora.OrderInfo.setProductType('a', 1.0) velora.OrderInfo.setProductType('a', '1') "
-           "velora.OrderInfo.setProductType({}, 1) return velora.OrderInfo.getProductType({})",
-           "",
-           {}},
-          {"velora.OrderInfo.setProductType(5, 2^32|0 + 1)", "", {"setProductType(\"5\", 1)"}},
-          {"return #tostring(product) > 0", "true", {"toString(ProductInfo(\"gold.60\"))"}},
-      });
+  host.Run(
+      "product = velora.ProductInfo.new() product:set_productId('gold.60') product:set_productName('Gold') "
+      "product:set_productPrice(0.99) product:set_exchangeRatio(10) product:set_channelGoodsTypes{a = 1} "
+      "o = velora.OrderInfo");
+  Check(host, "return o.getProductList()", "", "getProductList()");
+  Check(host, "return o.regProduct(product)", "", R"(regProduct("gold.60", "Gold", 0.99000000953674, 10))");
+  Check(host, "product:set_sdkPids{k = 'v'} return o.regProduct(product, 1)", "",
+        R"(regProduct("gold.60", "Gold", 0.99000000953674, 10, {"k": "v"}))");
+  Check(host, "return o.regProduct(7)", "", R"(regProduct("7"))");
+  Check(host, "return o.regProduct({}, 1)", "");
+  Check(host, "return o.hasProduct('gold.60'), o.hasProduct('x')", "true, false",
+        R"(hasProduct("gold.60"); hasProduct("x"))");
+  Check(host, "return o.hasProduct(), o.hasProduct({}), o.hasProduct(product)", "false, false, false");
+  Check(host, "return o.new('gold.60'):hasProduct()", "true", R"(New("gold.60"); hasProduct(OrderInfo("gold.60")))");
+  Check(host, "list = o.getProductList() return list", R"({"7"=userdata, "gold.60"=userdata})", "getProductList()");
+  Check(host,
+        "local p = list['gold.60'] p:set_productName('Silver') p:set_sdkPids{} return p:get_exchangeRatio(), "
+        "o.getProductList()['gold.60']:get_productName()",
+        "10, \"Gold\"", "getProductList()");
+  Check(host, "return o.getProductList()['gold.60']:get_sdkPids()", R"({"k"="v"})", "getProductList()");
+  Check(host, "o.setProductType('gold.60', 2) return o.getProductType('gold.60')", "2",
+        R"(setProductType("gold.60", 2); getProductType("gold.60"))");
+  Check(host,
+        "o.setProductType('a', 1.0) o.setProductType('a', '1') o.setProductType({}, 1) return o.getProductType({})",
+        "");
+  Check(host, "o.setProductType(5, 2^32|0 + 1)", "", R"(setProductType("5", 1))");
+  Check(host, "return #tostring(product) > 0", "true", R"(toString(ProductInfo("gold.60")))");
 }
 
 TEST_F(Records, TableSettersRaiseAndKeepTheOldValue) {

@@ -65,13 +65,14 @@ TEST_F(Wrappers, QueriesAboutSomethingGiveWhatTheSdkAnswers) {
     offline::SetAnswer(name, false);
     Expect(name, "'key'", "\"key\"");
   }
-  for (const char* name : {"isBinded", "zvHasPlatform", "hasFeature"}) {
-    for (const bool answer : {false, true}) {
+  for (const bool answer : {false, true}) {
+    for (const char* name : {"isBinded", "zvHasPlatform", "hasFeature", "zvCheckArgs"})
       offline::SetAnswer(name, answer);
-      Expect(name, "'key'", "\"key\"", answer ? "true" : "false");
-    }
-    Expect(name, "{}", nullptr, name == std::string("hasFeature") ? "false" : "");
+    const char* text = answer ? "true" : "false";
+    for (const char* name : {"isBinded", "zvHasPlatform", "hasFeature"}) Expect(name, "'key'", "\"key\"", text);
+    EXPECT_EQ(host.Run("return velora.zvCheckArgs(velora.ShareInfo.new())"), text);
   }
+  Expect("hasFeature", "{}", nullptr, "false");
   offline::SetAnswer("DRPF", std::int64_t{-1});
   Expect("DRPF", "42", "\"42\"", "-1");
   offline::SetAnswer("getPropInt", std::int64_t{7});
@@ -138,14 +139,18 @@ TEST_F(Wrappers, ALengthThatATableClaimsIsHonouredAndBounded) {
   Expect("zvSendPushNotification", "'t', claim(1 << 30)", nullptr,
          "error: test:1: list is longer than 1048576 elements");
   Expect("zvQuerySkuDetails", "'t', claim(1)", "\"t\", {\"a\", \"b\", \"c\"}");
+  host.Run("long = {} for i = 1, (1 << 20) + 1 do long[i] = 'x' end");
+  Expect("zvQuerySkuDetails", "'t', long", nullptr, "error: test:1: list is longer than 1048576 elements");
 }
 
-TEST_F(Wrappers, AShareRequestCanBeTested) {
-  host.Run("share = velora.ShareInfo.new()");
-  for (const bool answer : {true, false}) {
-    offline::SetAnswer("zvCheckArgs", answer);
-    Expect("zvCheckArgs", "share", "ShareInfo()", answer ? "true" : "false");
-  }
+TEST_F(Wrappers, MetamethodsOtherThanLenAreNotConsulted) {
+  host.Run(
+      "t = setmetatable({}, {__index = function() return 'ghost' end, __len = function() return 2 end, "
+      "__pairs = function() error('no') end}) share = velora.ShareInfo.new()");
+  Expect("zvDeleteInviters", "t", "{}");
+  EXPECT_EQ(host.Run("share:set_textMsg(t) return share:get_textMsg()"), "{}");
+  Expect("zvDeleteInviters", "setmetatable({}, {__len = function() error('mine') end})", nullptr,
+         "error: test:1: mine");
 }
 
 TEST_F(Wrappers, CheckedOrdersAreNewObjectsForTheSameRecords) {
