@@ -18,14 +18,10 @@ constexpr int kTable = 2;
 constexpr int kFirstKey = kTable + 1;
 constexpr int kFirstFunction = kFirstKey + kHandlerFunctions;
 
-void PrepareStack(lua_State* L, bool given) {
+void PrepareStack(lua_State* L) {
   lua_settop(L, 1);
   GetSdkCallbackTable(L, kHandlerTable);
   for (const char* key : kHandlerKeys) lua_pushstring(L, key);
-  for (int i = 0; i < kHandlerFunctions; ++i) {
-    lua_pushvalue(L, kFirstKey + i);
-    if (given) lua_rawget(L, 1);
-  }
 }
 
 // Takes the old functions out of the callback table.
@@ -41,9 +37,12 @@ void ClearFunctions(lua_State* L) {
   }
 }
 
-bool AllAreFunctions(lua_State* L) {
-  for (int i = 0; i < kHandlerFunctions; ++i)
-    if (!lua_isfunction(L, kFirstFunction + i)) return false;
+// Pushes the handler table's functions from kFirstFunction on, and tells whether all are there.
+bool ReadFunctions(lua_State* L) {
+  for (int i = 0; i < kHandlerFunctions; ++i) {
+    lua_pushvalue(L, kFirstKey + i);
+    if (lua_rawget(L, 1) != LUA_TFUNCTION) return false;
+  }
   return true;
 }
 
@@ -68,14 +67,14 @@ void Register(lua_State* mainState) {
 Outcome SetSyncDownloadHandler(lua_State* L) {
   const bool given = lua_gettop(L) > 0;
   if (given && !lua_istable(L, 1)) return Refusal();
-  PrepareStack(L, given);
+  PrepareStack(L);
   const StateRecord* state = StateRecordOf(L);
   sdk::enableAsyncEvent(false);
   sdk::removeSyncDownloadHandler(&downloadHandler);
   downloadHandler.SetState(nullptr);
   ClearFunctions(L);
   if (!given || state->closed) return Outcome::Results(0);
-  if (!AllAreFunctions(L)) return Outcome::Error("setSyncDownloadHandler with invalid lua handler");
+  if (!ReadFunctions(L)) return Outcome::Error("setSyncDownloadHandler with invalid lua handler");
   StoreFunctions(L);
   Register(state->mainState);
   return Outcome::Results(0);

@@ -68,6 +68,9 @@ TEST_F(Download, RegisteringFollowsItsSteps) {
   Check(*host, "d.setSyncDownloadHandler(setmetatable({}, {__index = handler}))", kInvalid, kOff);
   Check(*host, "d.setSyncDownloadHandler{onInited = print, onProgress = print, onFinish = {}}", kInvalid, kOff);
   Check(*host, "return d.setSyncDownloadHandler(handler)", "", kOn);
+  Check(*host, "d.setSyncDownloadHandler(d.getSyncDownloadHandler())", kInvalid, kOff);
+  Check(*host, "return kept, d.getSyncDownloadHandler()", "{}");
+  Check(*host, "return d.setSyncDownloadHandler(handler)", "", kOn);
   Check(*host, "return d.setSyncDownloadHandler()", "", kOff);
   Check(*host, "return kept, d.getSyncDownloadHandler()", "{}");
   EXPECT_TRUE(offline::Handlers().empty());

@@ -106,6 +106,8 @@ TEST_F(Wrappers, CommandLineIsSetAndCleared) {
     Expect("setCmdLineParameter", clear, "null");
     Expect("getCmdLineParameter", "", "");
   }
+  offline::SetAnswer("getCmdLineParameter", std::string());
+  Expect("getCmdLineParameter", "", "");
 }
 
 TEST_F(Wrappers, ListsAreReadAndTheirErrorsCarryThePosition) {
@@ -145,9 +147,12 @@ TEST_F(Wrappers, ALengthThatATableClaimsIsHonouredAndBounded) {
 
 TEST_F(Wrappers, MetamethodsOtherThanLenAreNotConsulted) {
   host.Run(
-      "t = setmetatable({}, {__index = function() return 'ghost' end, __len = function() return 2 end, "
+      "t = setmetatable({}, {__index = function() return '7' end, __len = function() return 2 end, "
       "__pairs = function() error('no') end}) share = velora.ShareInfo.new()");
   Expect("zvDeleteInviters", "t", "{}");
+  Expect("zvDisplayQuests", "t", "{0, 0}, 2");
+  Expect("zvQuerySkuDetails", "'t', setmetatable({'a', nil, 'c'}, getmetatable(t))", nullptr,
+         "error: test:1: SkuDetails need string list");
   EXPECT_EQ(host.Run("share:set_textMsg(t) return share:get_textMsg()"), "{}");
   Expect("zvDeleteInviters", "setmetatable({}, {__len = function() error('mine') end})", nullptr,
          "error: test:1: mine");
