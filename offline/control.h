@@ -12,6 +12,7 @@
 
 #include "platform/download.h"
 #include "platform/event.h"
+#include "platform/product_info.h"
 #include "platform/types.h"
 
 namespace tarn::velora::offline {
@@ -63,6 +64,12 @@ VELORA_SDK_API std::shared_ptr<OrderInfo> MakeOrder(const Fields& fields);
 VELORA_SDK_API std::shared_ptr<AccountInfo> MakeAccount(const Fields& fields);
 VELORA_SDK_API std::shared_ptr<SkuDetailsInfo> MakeSku(const Fields& fields);
 VELORA_SDK_API std::shared_ptr<PadRecord> MakePad(const Fields& fields);
+
+// Share requests that are made from now on have these fields from their birth. Throws as MakeOrder does.
+VELORA_SDK_API void SetNewShare(const Fields& fields);
+
+// Puts a product into the registry, its maps included, in the place of one of the same id.
+VELORA_SDK_API void SetProduct(ProductInfo product);
 
 // Gives zvGetCheckedOrders' list as it stands, empty references allowed.
 VELORA_SDK_API void SetCheckedOrders(std::vector<std::shared_ptr<OrderInfo>> orders);

@@ -20,9 +20,12 @@ struct Job {
   std::function<void()> effect;
 };
 
+using Effects = std::list<std::function<void()>>;
+
 struct Queue {
   std::mutex mutex;
   std::vector<std::shared_ptr<Event>> events;
+  Effects effects;                      // of the answers among them
   std::atomic<bool> hasEvents = false;  // spares an idle frame the lock
   std::list<Job> jobs;                  // a list, so that jobs move from hand to hand without allocating
   bool busy = false;                    // a job is being done
@@ -41,25 +44,28 @@ Queue& TheQueue() {
   return queue;
 }
 
-void Enqueue(std::vector<std::shared_ptr<Event>> fresh) {
+void NoteEvents(Queue& queue) { queue.hasEvents = !queue.events.empty() || !queue.effects.empty(); }
+
+void Enqueue(std::vector<std::shared_ptr<Event>> fresh, std::function<void()> effect) {
+  Effects effects;
+  if (effect) effects.push_back(std::move(effect));
   Queue& queue = TheQueue();
   std::lock_guard lock(queue.mutex);
   queue.events.insert(queue.events.end(), std::make_move_iterator(fresh.begin()), std::make_move_iterator(fresh.end()));
-  queue.hasEvents = !queue.events.empty();
+  queue.effects.splice(queue.effects.end(), effects);
+  NoteEvents(queue);
 }
 
 // Nothing may leave the thread: what cannot be done (for want of memory, say) is reported and left.
 void Perform(Job& job) {
   try {
-    if (job.effect) job.effect();
-    Enqueue(std::move(job.answers));
+    Enqueue(std::move(job.answers), std::move(job.effect));
   } catch (...) {
     std::fputs("[sdk] an answer is lost\n", stderr);
   }
 }
 
 void RunThread() {
-  const Quiet quiet;
   Queue& queue = TheQueue();
   std::unique_lock lock(queue.mutex);
   for (;;) {
@@ -96,7 +102,7 @@ void Post(std::shared_ptr<Event> event) {
   if (event == nullptr) return;
   std::vector<std::shared_ptr<Event>> fresh;
   fresh.push_back(std::move(event));
-  Enqueue(std::move(fresh));
+  Enqueue(std::move(fresh), nullptr);
 }
 
 void TakeBack(bool (*unwanted)(const Event& event)) {
@@ -107,7 +113,7 @@ void TakeBack(bool (*unwanted)(const Event& event)) {
   std::unique_lock lock(queue.mutex);
   queue.idle.wait(lock, [&] { return !queue.busy; });
   drop(queue.events);
-  queue.hasEvents = !queue.events.empty();
+  NoteEvents(queue);
   for (Job& job : queue.jobs) drop(job.answers);
 }
 
@@ -115,10 +121,12 @@ void ForgetEvents() {
   Queue& queue = TheQueue();
   std::list<Job> jobs;  // released when the lock is open again
   std::vector<std::shared_ptr<Event>> dropped;
+  Effects effects;
   std::unique_lock lock(queue.mutex);
   jobs.swap(queue.jobs);
   queue.idle.wait(lock, [&] { return !queue.busy; });
   dropped.swap(queue.events);
+  effects.swap(queue.effects);
   queue.hasEvents = false;
   lock.unlock();
 }
@@ -145,9 +153,18 @@ void SwapEvents(std::vector<std::shared_ptr<Event>>& events) {
   offline::RunHook("SwapEvents");
   offline::Queue& queue = offline::TheQueue();
   if (!queue.hasEvents) return;
-  std::lock_guard lock(queue.mutex);
+  const offline::Quiet quiet;
+  std::unique_lock lock(queue.mutex);
+  while (!queue.effects.empty()) {
+    offline::Effects current;
+    current.splice(current.begin(), queue.effects, queue.effects.begin());
+    lock.unlock();
+    current.front()();
+    current.clear();
+    lock.lock();
+  }
   events.swap(queue.events);
-  queue.hasEvents = !queue.events.empty();
+  offline::NoteEvents(queue);
 }
 
 }  // namespace tarn::velora

@@ -54,8 +54,9 @@ std::shared_ptr<Event> MakeEvent(Values&&... values) {
   return event;
 }
 
-// Answers an operation from the runtime's thread, soon and in the order of the calls: `effect` runs there, then the
-// events are queued. Either all of it is on its way, or this throws and nothing is.
+// Answers an operation from the runtime's thread, soon and in the order of the calls: the events are queued there, and
+// `effect` runs when SwapEvents gives them out, so that what it changes is seen no sooner. Either all of it is on its
+// way, or this throws and nothing is.
 void Reply(std::vector<std::shared_ptr<Event>> answers, std::function<void()> effect = nullptr);
 
 // Drops the events for which `unwanted` holds and which SwapEvents has not given out: queued ones, and answers that

@@ -47,15 +47,14 @@ class Order final : public OrderInfo, public Record {
   }
 };
 
-// Puts a product into the registry in the place of one of the same id.
-void Register(ProductInfo product) {
-  std::string productId = product.productId;
-  LockedState()->products.insert_or_assign(std::move(productId), std::move(product));
-}
-
 }  // namespace
 
 std::shared_ptr<OrderInfo> MakeOrder(const Fields& fields) { return MakeFilled<Order>(fields); }
+
+void SetProduct(ProductInfo product) {
+  std::string productId = product.productId;
+  LockedState()->products.insert_or_assign(std::move(productId), std::move(product));
+}
 
 }  // namespace offline
 
@@ -72,7 +71,7 @@ std::shared_ptr<OrderInfo> OrderInfo::New(const std::string& productId) {
 
 void OrderInfo::getProductList(std::unordered_map<std::string, ProductInfo>& out) {
   offline::Call("OrderInfo.getProductList");
-  out = offline::LockedState()->products;
+  if (offline::GiveFlag("OrderInfo.getProductList", true)) out = offline::LockedState()->products;
 }
 
 bool OrderInfo::hasProduct(const std::string& productId) {
@@ -104,13 +103,13 @@ void OrderInfo::regProduct(const std::string& productId) {
 void OrderInfo::regProduct(const std::string& productId, const std::string& name, float price,
                            std::int32_t exchangeRatio) {
   offline::Call("OrderInfo.regProduct", productId, name, price, exchangeRatio);
-  offline::Register({productId, name, price, exchangeRatio, {}, {}, {}, {}, {}});
+  offline::SetProduct({productId, name, price, exchangeRatio, {}, {}, {}, {}, {}});
 }
 
 void OrderInfo::regProduct(const std::string& productId, const std::string& name, float price,
                            std::int32_t exchangeRatio, const StringMap& sdkPids) {
   offline::Call("OrderInfo.regProduct", productId, name, price, exchangeRatio, sdkPids);
-  offline::Register({productId, name, price, exchangeRatio, sdkPids, {}, {}, {}, {}});
+  offline::SetProduct({productId, name, price, exchangeRatio, sdkPids, {}, {}, {}, {}});
 }
 
 std::int32_t OrderInfo::getProductType(const std::string& productId) {

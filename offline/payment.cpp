@@ -31,9 +31,8 @@ std::string OrderIdOf(OrderInfo& order) {
   return orderId;
 }
 
-// Runs on the runtime's thread: the order gets its status and, if it has none, an id; a good one joins the list.
+// The order gets its status and, if it has none, an id; a good one joins the list.
 void FinishCheck(const std::shared_ptr<OrderInfo>& order, std::int32_t status) {
-  const Quiet quiet;
   if (OrderIdOf(*order).empty()) {
     const std::int32_t number = ++LockedState()->lastOrderNumber;
     order->set_orderId("offline-order-" + std::to_string(number));
@@ -46,7 +45,6 @@ void FinishCheck(const std::shared_ptr<OrderInfo>& order, std::int32_t status) {
 }
 
 void FinishConsume(const std::shared_ptr<OrderInfo>& order, std::int32_t status) {
-  const Quiet quiet;
   order->set_orderStatus(status);
   if (status == kServerCheckOk) std::erase(LockedState()->checkedOrders, order);
 }
@@ -107,7 +105,7 @@ void zvQueryInventory() { Call(__func__); }
 
 void zvGetCheckedOrders(std::vector<std::shared_ptr<OrderInfo>>& out) {
   Call(__func__);
-  out = LockedState()->checkedOrders;
+  if (GiveFlag(__func__, true)) out = LockedState()->checkedOrders;
 }
 
 void zvRemoveCheckedOrders(const std::string& orderId) {

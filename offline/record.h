@@ -82,6 +82,13 @@ class Record {
     return given ? static_cast<Number>(*given) : stored;
   }
 
+  template <class Container>
+  Container ReadContainer(const char* operation, const Container& field) const {
+    Container content = Read(operation, field);
+    if (!GiveFlag(operation, true)) content.clear();
+    return content;
+  }
+
   template <class Value>
   void Write(const char* operation, Value& field, Parameter<Value> value) {
     RunHook(operation);
@@ -105,15 +112,14 @@ class Record {
   mutable std::mutex mutex_;  // of the fields
 };
 
-// A new record with the fields named in `fields` set. Throws std::invalid_argument for a name that the class does not
-// have and for a value that does not fit.
+// Sets the fields named in `fields` of a record that nobody else has yet. Throws std::invalid_argument for a name that
+// the class does not have and for a value that does not fit.
 template <class Derived>
-std::shared_ptr<Derived> MakeFilled(const Fields& fields) {
-  auto record = std::make_shared<Derived>(std::string());
+void Fill(Derived& record, const Fields& fields) {
   for (const auto& [name, value] : fields) {
-    const std::string label = std::string(record->RecordClass()) + "'s field '" + name + "'";
+    const std::string label = std::string(record.RecordClass()) + "'s field '" + name + "'";
     bool found = false;
-    Derived::EachField(*record, [&, &fieldName = name, &fieldValue = value](std::string_view candidate, auto& field) {
+    Derived::EachField(record, [&, &fieldName = name, &fieldValue = value](std::string_view candidate, auto& field) {
       if (candidate != fieldName) return;
       found = true;
       try {
@@ -124,6 +130,13 @@ std::shared_ptr<Derived> MakeFilled(const Fields& fields) {
     });
     if (!found) throw std::invalid_argument(label + " does not exist");
   }
+}
+
+// A new record with those fields. Throws as Fill does.
+template <class Derived>
+std::shared_ptr<Derived> MakeFilled(const Fields& fields) {
+  auto record = std::make_shared<Derived>(std::string());
+  Fill(*record, fields);
   return record;
 }
 
@@ -142,7 +155,7 @@ std::shared_ptr<Derived> Produce(const char* operation, std::string madeWith) {
 #define READ_NUMBER(name, family) \
   families::family get_##name() override { return ReadNumber(RECORD_CLASS ".get_" #name, name##_); }
 #define READ_CONTAINER(name, family) \
-  void get_##name(families::family& out) override { out = Read(RECORD_CLASS ".get_" #name, name##_); }
+  void get_##name(families::family& out) override { out = ReadContainer(RECORD_CLASS ".get_" #name, name##_); }
 #define READ_RECORD_MAP(name) \
   bool get_##name(velora::StringMap& out) override { return ReadMap(RECORD_CLASS ".get_" #name, name##_, out); }
 

@@ -2,6 +2,7 @@
 #include "platform/share_info.h"
 
 #include "offline/record.h"
+#include "offline/state.h"
 
 namespace tarn::velora {
 namespace offline {
@@ -18,17 +19,30 @@ class ShareRequest final : public ShareInfo, public Record {
   bool toString(std::string& out) override { return GiveTextForm("ShareInfo.toString", *this, out); }
 };
 
+std::shared_ptr<ShareInfo> MakeShare(std::string madeWith) {
+  const auto share = Produce<ShareRequest>("ShareInfo.New", std::move(madeWith));
+  const Fields fields = LockedState()->newShare;
+  if (share != nullptr) Fill(*share, fields);
+  return share;
+}
+
 }  // namespace
+
+void SetNewShare(const Fields& fields) {
+  MakeFilled<ShareRequest>(fields);  // throws where they do not fit
+  LockedState()->newShare = fields;
+}
+
 }  // namespace offline
 
 std::shared_ptr<ShareInfo> ShareInfo::New() {
   offline::Call("ShareInfo.New");
-  return offline::Produce<offline::ShareRequest>("ShareInfo.New", "");
+  return offline::MakeShare("");
 }
 
 std::shared_ptr<ShareInfo> ShareInfo::New(const std::string& text) {
   offline::Call("ShareInfo.New", text);
-  return offline::Produce<offline::ShareRequest>("ShareInfo.New", offline::Joined(text));
+  return offline::MakeShare(offline::Joined(text));
 }
 
 }  // namespace tarn::velora

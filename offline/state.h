@@ -10,6 +10,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "offline/control.h"
 #include "platform/download.h"
 #include "platform/order_info.h"
 #include "platform/product_info.h"
@@ -35,6 +36,7 @@ struct State {
 
   std::set<std::string> deletedInviters;
   std::optional<std::string> lastShareMessage;
+  Fields newShare;
 
   bool pushEnabled = true;
   bool notificationPending = false;

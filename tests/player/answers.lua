@@ -57,6 +57,20 @@ for _, row in ipairs{{"OrderInfo", order, "count"}, {"OrderInfo", order, "qrCode
   print(field, table.concat(values, " "), get(object))
 end
 
+-- With false, what gives a table gives none or an empty one.
+velora.OrderInfo.regProduct("gold.60")
+order:set_arrPriceLocaleId{"en"}
+print(velora.OrderInfo.getProductList() ~= nil, #order:get_arrPriceLocaleId())
+offline.answer("OrderInfo.getProductList", false)
+offline.answer("OrderInfo.get_arrPriceLocaleId", false)
+print(velora.OrderInfo.getProductList(), #order:get_arrPriceLocaleId())
+
+-- What an answer changes, it changes in its own frame, however long that takes.
+velora.zvLogin()
+local soon = os.clock() + 0.05
+while os.clock() < soon do end
+print("logged in", velora.hasLogin())
+
 local function fails(...) print(select(2, pcall(offline.answer, ...))) end
 fails("zvLogn", false)
 fails("OrderInfo.get_acid", 1)

@@ -14,6 +14,8 @@ local function hearAll()
   velora.setOnExitApp(function()
     print(velora.isInit(), velora.hasLogin(), velora.isBinded(""), velora.zvHasNotification(),
       velora.zvHasChannelConnected(), velora.getLastShareMessage() == nil, #velora.zvGetCheckedOrders())
+    offline.answer("zvGetCheckedOrders", false)
+    print(velora.zvGetCheckedOrders())
     velora.setOnPushGetUserPushFinished(function(enabled) print(enabled) player.quit() end)
     velora.zvGetUsePushNotification()
   end)
