@@ -87,10 +87,10 @@ void Read(const Value& value, std::shared_ptr<Record>& field);
 template <class Element>
 void Read(const Value& value, std::vector<Element>& field) {
   if (TypeOf(value) != LUA_TTABLE) FailType(value, "table");
-  field.resize(lua_rawlen(value.L, value.index));
-  for (std::size_t i = 0; i < field.size(); ++i) {
-    lua_rawgeti(value.L, value.index, static_cast<lua_Integer>(i + 1));
-    Read(PartOnTop(value, "element " + std::to_string(i + 1)), field[i]);
+  const std::size_t length = lua_rawlen(value.L, value.index);  // which a table with gaps may overstate by far
+  for (std::size_t i = 1; i <= length; ++i) {
+    lua_rawgeti(value.L, value.index, static_cast<lua_Integer>(i));
+    Read(PartOnTop(value, "element " + std::to_string(i)), field.emplace_back());
     lua_pop(value.L, 1);
   }
 }

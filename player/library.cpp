@@ -65,7 +65,7 @@ void Resolve(Handle library, const std::filesystem::path& file, const char* name
 }  // namespace
 
 Module LoadModule(const std::filesystem::path& file) {
-  const Handle library = Open(file);
+  const Handle library = Open(std::filesystem::absolute(file));  // a plain name would be searched for elsewhere
   if (library == nullptr) throw std::runtime_error("cannot load module " + file.string() + ": " + LastError());
   Module module{};
   Resolve(library, file, "InitLuaVelora", module.init);

@@ -69,9 +69,17 @@ void SetArguments(lua_State* L, const Game& game) {
   lua_setglobal(L, "arg");
 }
 
-// Ends the state; finalisers of the script still run.
+int Collect(lua_State* L) {
+  lua_gc(L, LUA_GCCOLLECT, 0);
+  return 0;
+}
+
+// Ends the state; finalisers of the script still run. The collection comes first since Lua 5.3 loops for ever where one
+// of them collects in a lua_close that interrupts a sweep.
 void Close(lua_State* L, Game& game) {
   game.closing = true;
+  lua_pushcfunction(L, Collect);
+  lua_pcall(L, 0, 0, 0);
   lua_close(L);
 }
 

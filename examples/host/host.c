@@ -65,6 +65,7 @@ static int Update(lua_State* L) {
 
 static int End(lua_State* L) {
   DeinitLuaVelora(L);
+  lua_gc(L, LUA_GCCOLLECT, 0);  // Lua 5.3 may hang in a lua_close that interrupts a collection
   return 0;
 }
 

@@ -54,6 +54,7 @@ int Update(lua_State* L) {
 
 int End(lua_State* L) {
   DeinitLuaVelora(L);
+  lua_gc(L, LUA_GCCOLLECT, 0);  // Lua 5.3 may hang in a lua_close that interrupts a collection
   return 0;
 }
 

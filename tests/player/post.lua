@@ -4,7 +4,10 @@ for setter, set in pairs(velora) do
 end
 offline.post(15, 9)
 offline.post(60)
-for _, bad in ipairs{ { "NoSuchEvent" }, { "LoginDone", "text" }, { "LoginDone", 1, 2 },
+local gaps = {}
+for k = 0, 40 do gaps[#gaps + 1] = "[" .. (1 << k) .. "] = 'x'" end
+gaps = load("return {" .. table.concat(gaps, ", ") .. "}")() -- claims a length of 2^40
+for _, bad in ipairs{ { "QueryInviteFriendListFinished", gaps }, { "NoSuchEvent" }, { "LoginDone", "text" }, { "LoginDone", 1, 2 },
     { "OrderCheckDone", { nothing = 1 } }, { "OrderCheckDone", velora.ShareInfo.new() } } do
   print(select(2, pcall(function() offline.post(table.unpack(bad)) end)))
 end
