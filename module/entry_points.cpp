@@ -37,6 +37,8 @@ void AtClose(lua_State* L, const StateRecord& state) {
 // The module table stays on top from where it is made to the end. It is published as soon as its functions stand.
 Outcome Init(lua_State* L) {
   WatchForClosing(L, AtClose);
+  GetSdkCallbackTable(L, kCallbackTable);  // made here: making it at the end could run a finaliser that raises
+  lua_pop(L, 1);
   tarn::velora::LogChannel = tarn::log::RegisterChannel("VELORA");
   lua_createtable(L, 0, 0);
   luaL_setfuncs(L, kModuleFunctions, 0);

@@ -68,9 +68,9 @@ class RecordPusher {
   template <class Record>
   void Push(lua_State* L) {
     if (state_ == nullptr) state_ = StateRecordOf(L);
-    if (fresh_ == nullptr || state_ == nullptr || state_->closed) return PushNil(L);
+    if (fresh_ == nullptr || state_ == nullptr) return PushNil(L);
     ToUserType(L, fresh_.get(), ClassOf<Record>::kMetatable);
-    // Making it may have run script code, and so the closing.
+    // Tested last: making it may have run script code, and so the closing.
     if (state_->closed || !IsRegistered(L, ClassOf<Record>::kMetatable)) {
       *static_cast<void**>(lua_touserdata(L, -1)) = nullptr;
       lua_pop(L, 1);

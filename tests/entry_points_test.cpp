@@ -57,6 +57,21 @@ TEST_F(EntryPoints, DeinitEmptiesTheSlotsAndNothingElse) {
   EXPECT_TRUE(offline::TakeLog().empty());
 }
 
+// Nothing is made, so no finaliser runs.
+TEST_F(EntryPoints, DeinitRaisesNoErrorOfAFinaliser) {
+  Host host;
+  host.Run(
+      "collectgarbage('stop') collectgarbage('setpause', 0) collectgarbage('setstepmul', 1000000) "
+      "setmetatable({}, {__gc = function() error('from the grave') end})");
+  lua_pushcfunction(host.L, [](lua_State* L) {
+    lua_gc(L, LUA_GCRESTART, 0);
+    DeinitLuaVelora(L);
+    lua_gc(L, LUA_GCSTOP, 0);
+    return 0;
+  });
+  EXPECT_EQ(lua_pcall(host.L, 0, 0, 0), LUA_OK);
+}
+
 TEST_F(EntryPoints, ASecondInitKeepsOlderObjectsAndCallbacks) {
   Host host;
   host.Run("old = velora; order = velora.OrderInfo.new('gold'); velora.setOnLoginDone(print)");
@@ -83,19 +98,6 @@ TEST_F(EntryPoints, UpdateBeforeInitDropsEvents) {
   offline::Post(std::make_shared<tarn::velora::PlainEvent>(4));
   EXPECT_EQ(host.Frame(), "");
   EXPECT_TRUE(offline::TakeLog().empty());
-}
-
-// However many values the host has left on its stack, and however little of it is left.
-TEST_F(EntryPoints, EntryPointsWorkOnAStackWithoutRoom) {
-  for (int height = 0; height < 100; ++height) {
-    Host host(false);
-    lua_checkstack(host.L, height);
-    for (int i = 0; i < height; ++i) lua_pushnil(host.L);
-    InitLuaVelora(host.L);
-    UpdateLuaVelora(host.L);
-    DeinitLuaVelora(host.L);
-    EXPECT_EQ(lua_gettop(host.L), height);
-  }
 }
 
 // What the registry keeps is named by text, so that other carriers of the helpers see the same.

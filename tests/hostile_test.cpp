@@ -60,19 +60,33 @@ class Hostile : public VeloraTest {
         collectgarbage('setpause', 0) collectgarbage('setstepmul', 1000000)
         pcall(plant)
       end
-      -- Calls every function of the module in many ways, each time with `call`, whose business errors are.
-      function callAll(call, o, s, p)
+      -- Calls every function of the module in many ways, as call(k, f, ...), each time with the three objects made anew;
+      -- k counts from 0 while `call` answers true.
+      function callAll(call)
+        local o, s, p = {}, {}, {}
+        local function try(f, ...)
+          local k = 0
+          repeat
+            order, share, product = velora.OrderInfo.new('o'), velora.ShareInfo.new('s'), velora.ProductInfo.new()
+            velora.OrderInfo.regProduct(product) product:set_sdkPids{a = 'b'}
+            share:set_toUserList{'a'} share:set_textMsg{k = 'v'}
+            local objects, arguments = {[o] = order, [s] = share, [p] = product}, table.pack(...)
+            for i = 1, arguments.n do arguments[i] = objects[arguments[i]] or arguments[i] end
+            local again = call(k, f, table.unpack(arguments, 1, arguments.n))
+            k = k + 1
+          until not again
+        end
         for name, f in pairs(velora) do
           if type(f) == 'function' then
-            call(f) call(f, o) call(f, s) call(f, {1.5, 2.5, k = 1.5}) call(f, 1.5, {1.5, 'x'})
-            call(f, 1.5, 2.5) call(f, 1.5, 1) call(f, 1.5, 1, 2, 3.5, 4.5) call(f, 1.5, 2.5, true)
+            try(f) try(f, o) try(f, s) try(f, {1.5, 2.5, k = 1.5}) try(f, 1.5, {1.5, 'x'})
+            try(f, 1.5, 2.5) try(f, 1.5, 1) try(f, 1.5, 1, 2, 3.5, 4.5) try(f, 1.5, 2.5, true)
           elseif type(f) == 'table' then
             for key, g in pairs(f) do
               if key ~= '__gc' then
                 for _, self in ipairs{o, s, p} do
-                  call(g, self, 1.5) call(g, self, {1.5, 2.5, k = 1.5}) call(g, self)
+                  try(g, self, 1.5) try(g, self, {1.5, 2.5, k = 1.5}) try(g, self)
                 end
-                call(g, 1.5, 2, 3, 4, 5, 6, 7.5)
+                try(g, 1.5, 2, 3, 4, 5, 6, 7.5)
               end
             end
           end
@@ -104,6 +118,8 @@ class Hostile : public VeloraTest {
   std::unique_ptr<Host> host;
 };
 
+// The collector runs in the module's own functions only, and finishes a cycle, with the action at its end, as soon as
+// one of them allocates.
 TEST_F(Hostile, FinalisersThatRaiseOrInterfereWhileTheModuleWorks) {
   for (const char* action : {
            "error('finaliser')",
@@ -114,11 +130,26 @@ TEST_F(Hostile, FinalisersThatRaiseOrInterfereWhileTheModuleWorks) {
            "velora.setOnLoginDone(print) velora.download.setSyncDownloadHandler()",
            "velora.download.setSyncDownloadHandler{onInited = noop, onProgress = noop, onFinish = noop}",
        }) {
-    host->Run(
-        "order, share, product = velora.OrderInfo.new('o'), velora.ShareInfo.new('s'), velora.ProductInfo.new() "
-        "share:set_textMsg{k = 'v'} share:set_toUserList{'a', 'b'} product:set_sdkPids{k = 'v'}");
-    host->Run(std::string("haunt(function() ") + action + " end) pcall(callAll, pcall, order, share, product)");
-    StopHaunting();
+    host->Run(std::string("function deed() ") + action + " end");
+    EXPECT_EQ(host->Run(R"(
+      collectgarbage('stop') collectgarbage('setpause', 0) collectgarbage('setstepmul', 1000000)
+      local calls, raised, action = 0, 0
+      local function finish() action() end
+      callAll(function(k, f, ...)
+        calls, action = calls + 1, deed
+        setmetatable({}, {__gc = finish})
+        collectgarbage('restart')
+        local ok, message = pcall(f, ...)
+        collectgarbage('stop')
+        if not ok and tostring(message):find('__gc', 1, true) then raised = raised + 1 end
+        action = noop
+        if calls % 500 == 0 then collectgarbage() end
+      end)
+      action = noop
+      collectgarbage() collectgarbage('setpause', 200) collectgarbage('setstepmul', 200) collectgarbage('restart')
+      return calls > 4000, raised > 100)"),
+              std::string("true, ") + (std::string_view(action).starts_with("error") ? "true" : "false"))
+        << action;
     ExpectSound();
   }
 }
@@ -150,15 +181,8 @@ TEST_F(Hostile, FinalisersThatRaiseWhileThePumpBuildsArguments) {
   host->Run(
       "seen = 0 for name, f in pairs(velora) do if name:find('^setOn') then f(function() seen = seen + 1 end) end end "
       "haunt(function() error('from the grave', 0) end)");
-  constexpr int kEvents = 50;
-  for (int i = 0; i < kEvents; ++i) {
-    auto event = std::make_shared<AccountListEvent>(41);
-    event->accounts = {offline::MakeAccount({}), offline::MakeAccount({})};
-    offline::Post(event);
-    auto texts = std::make_shared<TextListEvent>(47);
-    texts->texts = {"a", "b"};
-    offline::Post(texts);
-  }
+  constexpr int kEvents = 600;
+  for (int i = 0; i < kEvents; ++i) offline::Post(MakeEvent(i % 60, true));
   EXPECT_EQ(host->Frame(), "");
   StopHaunting();
   const auto lines = offline::TakeLog();
@@ -166,7 +190,7 @@ TEST_F(Hostile, FinalisersThatRaiseWhileThePumpBuildsArguments) {
   for (const std::string& line : lines)
     EXPECT_EQ(line, "[VELORA] 0 [Velora callback err] error in __gc metamethod (from the grave)");
   // Every event either reached its callback or is accounted for by a line.
-  EXPECT_EQ(std::stoul(host->Run("return seen")) + lines.size(), 2u * kEvents);
+  EXPECT_EQ(std::stoul(host->Run("return seen")) + lines.size(), std::size_t{kEvents});
   ExpectSound();
 }
 
@@ -201,15 +225,13 @@ TEST_F(Hostile, AnSdkThatThrows) {
        {std::pair{Deed::kThrow, "the SDK broke"}, {Deed::kRunOutOfMemory, "not enough memory"}}) {
     EXPECT_EQ(host->Run("what, text = " + std::to_string(static_cast<int>(what)) + ", '" + text + "'"), "");
     EXPECT_EQ(host->Run(R"(
-      callAll(function(f, ...)
-        local k, failed = 0
-        repeat
-          deed(what, k)
-          local ok, message = pcall(f, ...)
-          failed, k = deed(0), k + 1
-          assert(not failed or not ok and message:find(text, 1, true), message)
-        until not failed
-      end, order, share, product)
+      callAll(function(k, f, ...)
+        deed(what, k)
+        local ok, message = pcall(f, ...)
+        local failed = deed(0)
+        assert(not failed or not ok and message:find(text, 1, true), message)
+        return failed
+      end)
       for k = 0, 2 do
         deed(what, k)
         assert(not pcall(velora.download.setSyncDownloadHandler, {onInited = noop, onProgress = noop, onFinish = noop}))
@@ -234,23 +256,23 @@ TEST_F(Hostile, AnSdkThatCallsScriptsInTheMiddleOfACall) {
       collectgarbage()
       error('in the middle')
     end}
-    local o, s, p = order, share, product
-    callAll(function(f, ...)
-      local k, called = 0
-      repeat
-        order, share, product = velora.OrderInfo.new('o'), velora.ShareInfo.new('s'), velora.ProductInfo.new()
-        velora.OrderInfo.regProduct(product) product:set_sdkPids{a = 'b'} share:set_toUserList{'a'}
-        velora.download.setSyncDownloadHandler(handler)
-        local fresh, arguments = {[o] = order, [s] = share, [p] = product}, table.pack(...)
-        for i = 1, arguments.n do arguments[i] = fresh[arguments[i]] or arguments[i] end
-        deed(3, k)
-        pcall(f, table.unpack(arguments, 1, arguments.n))
-        called, k = deed(0), k + 1
-        assert(not called or f == velora.download.setSyncDownloadHandler or
-          select('#', order:get_aid()) + select('#', share:get_title()) == 0 and not product:get_productId())
-      until not called
-    end, o, s, p))"),
-            "");
+    callAll(function(k, f, ...)
+      velora.download.setSyncDownloadHandler(handler)
+      deed(3, k)
+      pcall(f, ...)
+      local called = deed(0)
+      assert(not called or f == velora.download.setSyncDownloadHandler or
+        select('#', order:get_aid()) + select('#', share:get_title()) == 0 and not product:get_productId())
+      return called
+    end)
+    product = velora.ProductInfo.new()
+    product:set_productName('outer')
+    velora.download.setSyncDownloadHandler{onInited = noop, onFinish = noop, onProgress = function()
+      product:set_productName('inner')
+    end}
+    deed(3)
+    return tostring(product):find('outer') ~= nil, deed(0), product:get_productName())"),
+            "true, true, \"inner\"");
   ExpectSound();
   EXPECT_GT(hooked.size(), 250u);
 }
@@ -269,21 +291,55 @@ TEST_F(Hostile, FinalisersThatMakeObjectsWhileTheStateCloses) {
   EXPECT_EQ(offline::LiveRecords(), 0u);
 }
 
-// With no memory for the call of a finaliser, Lua drops it; the record goes when the state closes.
+// With no memory for the call of a finaliser, Lua drops it; the record goes when the state closes, and no object of any
+// class answers afterwards, though its own finaliser never ran.
 TEST_F(Hostile, FinalisersThatFindNoMemory) {
-  host->Run("for i = 1, 20 do velora.OrderInfo.new(i) end");
+  host = std::make_unique<Host>(false);
+  static int answers;
+  answers = 0;
+  lua_register(host->L, "answered", [](lua_State*) {
+    ++answers;
+    return 0;
+  });
+  host->Run(R"(
+    getters = {OrderInfo = 'get_count', ShareInfo = 'get_type', ProductInfo = 'get_exchangeRatio', PadEvent = 'get_x',
+               AccountInfo = 'get_rank', QueryRankInfo = 'get_count', SkuDetailsInfo = 'get_title'}
+    weak, kept = setmetatable({}, {__mode = 'k'}), {}
+    function count(class)
+      local n = 0
+      for object in pairs(kept) do n = n + select('#', velora[class][getters[class]](object)) end
+      return n
+    end
+    last = setmetatable({}, {__gc = function() for class in pairs(getters) do
+      if count(class) > 0 then answered() end end end}))");
+  InitLuaVelora(host->L);
+  host->Run("velora.setOnControllerStateEvent(function(pad) weak[pad] = true end)");
   lua_State* L = host->L;
-  for (int depth = 0; depth < 50; ++depth) {
-    lua_pushcfunction(L, [](lua_State* state) {
-      memory::FailAfter(0);
-      lua_gc(state, LUA_GCCOLLECT, 0);
+  lua_gc(L, LUA_GCSTOP, 0);
+  for (const char* type :
+       {"OrderInfo", "ShareInfo", "ProductInfo", "PadEvent", "AccountInfo", "QueryRankInfo", "SkuDetailsInfo"}) {
+    for (int i = 0; i < 20; ++i) offline::Post(MakeEvent(10, true));  // PadEvents
+    EXPECT_EQ(host->Frame(), "");
+    host->Run(std::string("local new = velora.") + type +
+              ".new for i = 1, new and 20 or 0 do weak[new(1, 2, 3, 4, 5, 6, 7)] = true end");
+    for (int i = 0; i < 20; ++i) {
+      lua_State* fresh = lua_newthread(L);  // it must allocate for a call within a call
+      lua_pushcfunction(fresh, [](lua_State* state) {
+        memory::FailAfter(0);
+        lua_gc(state, LUA_GCCOLLECT, 0);
+        return 0;
+      });
+      const int status = lua_pcall(fresh, 0, 0, 0);
       memory::Restore();
-      return 0;
-    });
-    lua_pcall(L, 0, 0, 0);
-    host->Run("local function nest(n) if n > 0 then return nest(n - 1), 1 end velora.AccountInfo.new() end nest(50)");
+      EXPECT_NE(status, LUA_OK) << type << i;
+      lua_pop(L, 1);
+      host->Run("for object in pairs(weak) do kept[object] = true end");
+    }
+    host->Run("collectgarbage() collectgarbage()");
+    EXPECT_EQ(host->Run(std::string("return count('") + type + "')"), "20") << type;
   }
   host->Close();
+  EXPECT_EQ(answers, 0);
   EXPECT_EQ(offline::LiveRecords(), 0u);
 }
 
@@ -294,13 +350,17 @@ TEST_F(Hostile, FinalisersThatCollectWhileTheStateCloses) {
            "local s = velora.ShareInfo.new('late') s:set_toUserList(setmetatable({'a'}, {__len = function() "
            "collectgarbage() return 1 end}))",
            "collectgarbage('restart') collectgarbage('setpause', 0) for i = 1, 50 do velora.OrderInfo.new('x') end",
+           "collectgarbage('restart') velora.zvGetCheckedOrders()",
            "local o = velora.OrderInfo.new('x') deed(3) velora.zvCheckOrder(o) o:set_aid(1.5)",
        }) {
     host = std::make_unique<Host>();
     lua_register(host->L, "deed", SetDeed);
+    offline::SetCheckedOrders(std::vector(5000, offline::MakeOrder({})));
     host->Run(
         "velora.download.setSyncDownloadHandler{onInited = print, onFinish = print, "
         "onProgress = function() collectgarbage() end}");
+    // More finalisers than a few steps of the collector run, so that the closing comes in the middle of a list.
+    host->Run("objects = {} for i = 1, 1000 do objects[i] = velora.OrderInfo.new('x') end");
     host->Run(std::string("planted = setmetatable({}, {__gc = function() ") + action + " end})");
     lua_gc(host->L, LUA_GCCOLLECT, 0);
     lua_gc(host->L, LUA_GCSTOP, 0);

@@ -110,7 +110,9 @@ const std::map<std::string, std::vector<RoundTrip>> kRoundTrips = {
     {"Bool", {{"0", "true"}, {"nil", "false"}, {"''", "true"}, {"false", "false"}}},
     {"StringMap", {{"{a = 1, b = true}", "{\"a\"=\"1\"}"}, {"{}", "{}"}}},
     {"IntMap",
-     {{"{a = 2^32 + 3, b = 'x', c = 2.0, d = '7', [{}] = 1}", "{\"a\"=3, \"b\"=0, \"c\"=2, \"d\"=7}"}, {"{}", "{}"}}},
+     {{"{a = 2^32 + 3, b = 'x', c = 2.0, d = '7', [{}] = 1}", "{\"a\"=3, \"b\"=0, \"c\"=2, \"d\"=7}"},
+      {"{5, ['1'] = 7}", "{\"1\"=7}"},
+      {"{}", "{}"}}},
     {"CachedMap",
      {{"{a = 'x', b = {}, c = 3, [true] = 'y', [1.5] = 'z', [2] = false}", "{\"1.5\"=\"z\", \"a\"=\"x\", \"c\"=\"3\"}"},
       {"{'a', 'b'}", "{\"1\"=\"a\", \"2\"=\"b\"}"},
@@ -294,6 +296,10 @@ TEST_F(Records, TheProductRegistryIsReachedThroughTheOrderClass) {
         "");
   Check(host, "o.setProductType(5, 2^32|0 + 1)", "", R"(setProductType("5", 1))");
   Check(host, "return #tostring(product) > 0", "true", R"(toString(ProductInfo("gold.60")))");
+  offline::SetProduct({"whole", "", 0, 1, {{"p", "1"}}, {{"g", 2}}, {{"r", 3}}, "", ""});
+  Check(host,
+        "local p = o.getProductList().whole return p:get_sdkPids(), p:get_channelGoodsTypes(), p:get_jellRatios()",
+        R"({"p"="1"}, {"g"=2}, {"r"=3})", "getProductList()");
 }
 
 TEST_F(Records, TableSettersRaiseAndKeepTheOldValue) {
@@ -330,11 +336,25 @@ TEST_F(Records, TextFormsShowWhatAFlushWrote) {
       "product = velora.ProductInfo.new() product:set_sdkPids{pid = 'p1'} product:set_channelGoodsTypes{goods = 41} "
       "product:set_jellRatios{ratio = 42} share = velora.ShareInfo.new() share:set_linkParams{k = 'l1'} "
       "share:set_toUserList{'anna'} copy = share:get_linkParams() copy.k = 'changed'");
-  EXPECT_EQ(host.Run("local t = tostring(product) return t:find('p1') and t:find('41') and t:find('42') and true"),
+  EXPECT_EQ(host.Run("local t = tostring(product) return t:find('\"sdkPids\":{\"pid\":\"p1\"}', 1, true) and "
+                     "t:find('\"channelGoodsTypes\":{\"goods\":41}', 1, true) and "
+                     "t:find('\"jellRatios\":{\"ratio\":42}', 1, true) and true"),
             "true");
   EXPECT_EQ(host.Run("local t = tostring(share) return t:find('l1') and t:find('anna') and true, "
                      "share:get_linkParams()"),
             "true, {\"k\"=\"l1\"}");
+}
+
+TEST_F(Records, ANewShareRequestHasWhatItsRecordHolds) {
+  offline::Fields fields = {{"toUserList", offline::FieldList{"anna"}}};
+  const char* const maps[] = {"aLinkParams", "altTextMsg", "iLinkParams", "linkParams",
+                              "linkTextMsg", "subTextMsg", "textMsg"};
+  for (const char* name : maps) fields[name] = tarn::velora::StringMap{{"k", name}};
+  offline::SetNewShare(fields);
+  host.Run("share = velora.ShareInfo.new()");
+  for (const std::string name : maps)
+    EXPECT_EQ(host.Run("return share:get_" + name + "()"), "{\"k\"=\"" + name + "\"}");
+  EXPECT_EQ(host.Run("return share:get_toUserList()"), "{[1]=\"anna\"}");
 }
 
 TEST_F(Records, ShareDataThatTheRecordRefusesIsNoResult) {
