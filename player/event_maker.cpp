@@ -84,10 +84,14 @@ void Read(const Value& value, std::optional<std::string>& field) { Read(value, f
 template <class Record>
 void Read(const Value& value, std::shared_ptr<Record>& field);
 
+// A table with gaps may claim any length.
+constexpr std::size_t kMaxLength = 1 << 20;
+
 template <class Element>
 void Read(const Value& value, std::vector<Element>& field) {
   if (TypeOf(value) != LUA_TTABLE) FailType(value, "table");
-  const std::size_t length = lua_rawlen(value.L, value.index);  // which a table with gaps may overstate by far
+  const std::size_t length = lua_rawlen(value.L, value.index);
+  if (length > kMaxLength) Fail(value, "a list of at most " + std::to_string(kMaxLength) + " elements expected");
   for (std::size_t i = 1; i <= length; ++i) {
     lua_rawgeti(value.L, value.index, static_cast<lua_Integer>(i));
     Read(PartOnTop(value, "element " + std::to_string(i)), field.emplace_back());
