@@ -14,7 +14,8 @@ struct Module {
   decltype(&DeinitLuaVelora) deinit;
 };
 
-// Loads the library `file`. It stays loaded until the process ends. Throws std::runtime_error with one line that says what is wrong.
+// Loads the library `file`. It stays loaded until the process ends. Throws std::runtime_error with one line that says
+// what is wrong.
 Module LoadModule(const std::filesystem::path& file);
 
 // The module's library: beside the running program or, as installed on Linux, in the folder ../lib.
