@@ -108,7 +108,7 @@ TEST_F(Abi, TheDownloadHandlerHasThreeSlots) {
 // A share hands the SDK a record that holds the caches, each in its own field.
 TEST_F(Abi, SharingWritesTheCachesIntoTheRecord) {
   Host host;
-  for (const char* wrapper : {"zvShare", "zvCheckArgs"}) {
+  for (const char* flush : {"velora.zvShare", "velora.zvCheckArgs", "tostring"}) {
     host.Run(R"(
       share = velora.ShareInfo.new() share:set_toUserList{'a'}
       for _, name in ipairs{'aLinkParams', 'altTextMsg', 'iLinkParams', 'linkParams', 'linkTextMsg', 'subTextMsg',
@@ -119,7 +119,7 @@ TEST_F(Abi, SharingWritesTheCachesIntoTheRecord) {
     std::string text;
     EXPECT_TRUE(record->toString(text));
     EXPECT_EQ(text, "ShareInfo() {}");
-    host.Run(std::string("velora.") + wrapper + "(share)");
+    host.Run(std::string(flush) + "(share)");
     EXPECT_TRUE(record->toString(text));
     EXPECT_EQ(text,
               "ShareInfo() {\"aLinkParams\":{\"k\":\"aLinkParams\"},\"altTextMsg\":{\"k\":\"altTextMsg\"},"

@@ -9,27 +9,20 @@ namespace {
 
 namespace offline = tarn::velora::offline;
 
-class Download : public VeloraTest {
+class Download : public HostTest {
  protected:
   void SetUp() override {
     VeloraTest::SetUp();
-    host = std::make_unique<Host>();
-    Prepare(*host);
-  }
-  void TearDown() override {
-    host.reset();
-    VeloraTest::TearDown();
+    Prepare(host);
   }
 
-  static void Prepare(Host& host) {
-    host.Run(
+  static void Prepare(Host& fresh) {
+    fresh.Run(
         "d = velora.download log = {} function note(name) return function(...) "
         "log[#log + 1] = table.pack(name, ...) end end "
         "function take() local l = log log = {} return table.unpack(l) end "
         "handler = {onInited = note('inited'), onProgress = note('progress'), onFinish = note('finish')}");
   }
-
-  std::unique_ptr<Host> host;
 };
 
 const char* const kOff = "enableAsyncEvent(false); removeSyncDownloadHandler(<handler>)";
@@ -39,45 +32,45 @@ const char* const kOn =
 TEST_F(Download, FunctionsCallTheService) {
   for (const char* query : {"query", "getDownloadSDKVersion", "getOrbitSessionId"}) {
     offline::SetAnswer(query, std::string("a\0b", 3));
-    EXPECT_EQ(host->Run(std::string("return d.") + query + "(1)"), "\"a\"");
+    EXPECT_EQ(host.Run(std::string("return d.") + query + "(1)"), "\"a\"");
     offline::SetAnswer(query, false);
-    EXPECT_EQ(host->Run(std::string("return d.") + query + "()"), "");
+    EXPECT_EQ(host.Run(std::string("return d.") + query + "()"), "");
     offline::TakeCalls();
   }
-  Check(*host, "return d.init({})", "", "init()");
-  Check(*host, "return d.disableDownloadFinish2()", "", "disableDownloadFinish2()");
-  Check(*host, "return d.extendFunc(12)", "", R"(extendFunc("12"))");
-  Check(*host, R"(return d.extendFunc('a\0b'))", "", R"(extendFunc("a"))");
-  for (const char* bad : {"return d.extendFunc({})", "return d.extendFunc()"}) Check(*host, bad, "");
+  Check(host, "return d.init({})", "", "init()");
+  Check(host, "return d.disableDownloadFinish2()", "", "disableDownloadFinish2()");
+  Check(host, "return d.extendFunc(12)", "", R"(extendFunc("12"))");
+  Check(host, R"(return d.extendFunc('a\0b'))", "", R"(extendFunc("a"))");
+  for (const char* bad : {"return d.extendFunc({})", "return d.extendFunc()"}) Check(host, bad, "");
 }
 
 TEST_F(Download, RegisteringFollowsItsSteps) {
   const char* const kInvalid = "error: test:1: setSyncDownloadHandler with invalid lua handler";
-  Check(*host, "return d.getSyncDownloadHandler()", "");
+  Check(host, "return d.getSyncDownloadHandler()", "");
   for (const char* bad : {"return d.setSyncDownloadHandler(5)", "return d.setSyncDownloadHandler(nil)"})
-    Check(*host, bad, "");
-  Check(*host, "return d.setSyncDownloadHandler(handler, 1)", "", kOn);
-  Check(*host,
+    Check(host, bad, "");
+  Check(host, "return d.setSyncDownloadHandler(handler, 1)", "", kOn);
+  Check(host,
         "local t = d.getSyncDownloadHandler() return t ~= handler, t.onInited == handler.onInited, "
         "t.onProgress == handler.onProgress, t.onFinish == handler.onFinish",
         "true, true, true, true");
-  Check(*host, "d.setSyncDownloadHandler('x') kept = d.getSyncDownloadHandler() return kept ~= nil", "true");
-  Check(*host, "d.setSyncDownloadHandler{onInited = print, onProgress = print}", kInvalid, kOff);
-  Check(*host, "return d.getSyncDownloadHandler()", "");
-  Check(*host, "return kept", "{}");
-  Check(*host, "d.setSyncDownloadHandler(setmetatable({}, {__index = handler}))", kInvalid, kOff);
-  Check(*host, "d.setSyncDownloadHandler{onInited = print, onProgress = print, onFinish = {}}", kInvalid, kOff);
-  Check(*host, "return d.setSyncDownloadHandler(handler)", "", kOn);
-  Check(*host, "d.setSyncDownloadHandler(d.getSyncDownloadHandler())", kInvalid, kOff);
-  Check(*host, "return kept, d.getSyncDownloadHandler()", "{}");
-  Check(*host, "return d.setSyncDownloadHandler(handler)", "", kOn);
-  Check(*host, "return d.setSyncDownloadHandler()", "", kOff);
-  Check(*host, "return kept, d.getSyncDownloadHandler()", "{}");
+  Check(host, "d.setSyncDownloadHandler('x') kept = d.getSyncDownloadHandler() return kept ~= nil", "true");
+  Check(host, "d.setSyncDownloadHandler{onInited = print, onProgress = print}", kInvalid, kOff);
+  Check(host, "return d.getSyncDownloadHandler()", "");
+  Check(host, "return kept", "{}");
+  Check(host, "d.setSyncDownloadHandler(setmetatable({}, {__index = handler}))", kInvalid, kOff);
+  Check(host, "d.setSyncDownloadHandler{onInited = print, onProgress = print, onFinish = {}}", kInvalid, kOff);
+  Check(host, "return d.setSyncDownloadHandler(handler)", "", kOn);
+  Check(host, "d.setSyncDownloadHandler(d.getSyncDownloadHandler())", kInvalid, kOff);
+  Check(host, "return kept, d.getSyncDownloadHandler()", "{}");
+  Check(host, "return d.setSyncDownloadHandler(handler)", "", kOn);
+  Check(host, "return d.setSyncDownloadHandler()", "", kOff);
+  Check(host, "return kept, d.getSyncDownloadHandler()", "{}");
   EXPECT_TRUE(offline::Handlers().empty());
 }
 
 TEST_F(Download, CallsOfTheServiceReachTheFunctions) {
-  host->Run("d.setSyncDownloadHandler(handler)");
+  host.Run("d.setSyncDownloadHandler(handler)");
   auto* handler = offline::Handlers().at(0);
   handler->onInited();
   handler->onProgress("50");
@@ -85,18 +78,18 @@ TEST_F(Download, CallsOfTheServiceReachTheFunctions) {
   handler->onFinish(nullptr, "0123456789", 10);
   handler->onFinish("t", "x", 0);
   handler->onFinish("t", nullptr, 5);
-  EXPECT_EQ(host->Run("return take()"),
+  EXPECT_EQ(host.Run("return take()"),
             "{\"n\"=1, [1]=\"inited\"}, {\"n\"=2, [1]=\"progress\", [2]=\"50\"}, {\"n\"=2, [1]=\"progress\"}, "
             "{\"n\"=3, [1]=\"finish\", [2]=\"\", [3]=\"0123456789\"}, {\"n\"=3, [1]=\"finish\", [2]=\"t\"}, "
             "{\"n\"=3, [1]=\"finish\", [2]=\"t\"}");
-  EXPECT_EQ(lua_gettop(host->L), 0);
-  DeinitLuaVelora(host->L);
+  EXPECT_EQ(lua_gettop(host.L), 0);
+  DeinitLuaVelora(host.L);
   handler->onInited();
-  EXPECT_EQ(host->Run("return take()"), "{\"n\"=1, [1]=\"inited\"}");
+  EXPECT_EQ(host.Run("return take()"), "{\"n\"=1, [1]=\"inited\"}");
 }
 
 TEST_F(Download, ErrorsOfTheFunctionsAreLogged) {
-  host->Run(
+  host.Run(
       "d.setSyncDownloadHandler{onInited = function() error('one', 0) end, onProgress = function() error({}) end, "
       "onFinish = function() d.setSyncDownloadHandler() error('three', 0) end}");
   auto* handler = offline::Handlers().at(0);
@@ -109,50 +102,41 @@ TEST_F(Download, ErrorsOfTheFunctionsAreLogged) {
                                     "[VELORA] 0 [Velora callback err] (error object is a table value)",
                                     "[VELORA] 0 [Velora callback err] three",
                                 }));
-  EXPECT_EQ(lua_gettop(host->L), 0);
+  EXPECT_EQ(lua_gettop(host.L), 0);
 }
 
 TEST_F(Download, AHandlerRegisteredInACoroutineOutlivesIt) {
-  host->Run(
+  host.Run(
       "local co = coroutine.create(function() d.setSyncDownloadHandler(handler) coroutine.yield() end) "
       "coroutine.resume(co) co = nil collectgarbage() collectgarbage()");
   offline::Handlers().at(0)->onProgress("x");
-  EXPECT_EQ(host->Run("return take()"), "{\"n\"=2, [1]=\"progress\", [2]=\"x\"}");
+  EXPECT_EQ(host.Run("return take()"), "{\"n\"=2, [1]=\"progress\", [2]=\"x\"}");
   // Called while a coroutine runs.
   static tarn::velora::download::SyncDownloadHandler* handler;
   handler = offline::Handlers().at(0);
-  lua_pushcfunction(host->L, [](lua_State*) {
+  lua_pushcfunction(host.L, [](lua_State*) {
     handler->onProgress("y");
     return 0;
   });
-  lua_setglobal(host->L, "fire");
-  EXPECT_EQ(host->Run("return coroutine.wrap(function(...) fire() coroutine.yield(1) end)()"), "1");
-  EXPECT_EQ(host->Run("return take()"), "{\"n\"=2, [1]=\"progress\", [2]=\"y\"}");
+  lua_setglobal(host.L, "fire");
+  EXPECT_EQ(host.Run("return coroutine.wrap(function(...) fire() coroutine.yield(1) end)()"), "1");
+  EXPECT_EQ(host.Run("return take()"), "{\"n\"=2, [1]=\"progress\", [2]=\"y\"}");
 }
 
 TEST_F(Download, TheLastStateThatRegistersWins) {
   Host second;
   Prepare(second);
-  host->Run("d.setSyncDownloadHandler(handler)");
+  host.Run("d.setSyncDownloadHandler(handler)");
   second.Run("d.setSyncDownloadHandler(handler)");
   auto* handler = offline::Handlers().at(0);
   handler->onInited();
-  EXPECT_EQ(host->Run("return take()"), "");
+  EXPECT_EQ(host.Run("return take()"), "");
   EXPECT_EQ(second.Run("return take()"), "{\"n\"=1, [1]=\"inited\"}");
   second.Close();
   handler->onInited();
-  EXPECT_EQ(host->Run("return d.getSyncDownloadHandler()"), "");
-}
-
-TEST_F(Download, AClosedStateIsNeverCalledAgain) {
-  host->Run("d.setSyncDownloadHandler(handler)");
-  host->Close();
-  for (auto* handler : offline::Handlers()) {
-    handler->onInited();
-    handler->onProgress("x");
-    handler->onFinish("x", "y", 1);
-  }
-  EXPECT_EQ(luavelora::downloadHandler.state(), nullptr);
+  handler->onProgress("x");
+  handler->onFinish("x", "y", 1);
+  EXPECT_EQ(host.Run("return d.getSyncDownloadHandler()"), "");
 }
 
 // What was made before the module's start is finalised after the state has been forgotten.

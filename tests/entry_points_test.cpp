@@ -84,15 +84,6 @@ TEST_F(EntryPoints, ASecondInitKeepsOlderObjectsAndCallbacks) {
   EXPECT_EQ(offline::LiveRecords(), 0u);
 }
 
-TEST_F(EntryPoints, ObjectsOutliveDeinitAndDieWithTheState) {
-  Host host;
-  host.Run("orders = {} for i = 1, 10 do orders[i] = velora.OrderInfo.new(i) end product = velora.ProductInfo.new()");
-  DeinitLuaVelora(host.L);
-  EXPECT_EQ(offline::LiveRecords(), 10u);
-  host.Close();
-  EXPECT_EQ(offline::LiveRecords(), 0u);
-}
-
 TEST_F(EntryPoints, UpdateBeforeInitDropsEvents) {
   Host host(false);
   offline::Post(std::make_shared<tarn::velora::PlainEvent>(4));

@@ -15,18 +15,13 @@ namespace {
 namespace offline = tarn::velora::offline;
 using namespace tarn::velora;
 
-class Events : public VeloraTest {
+class Events : public HostTest {
  protected:
   void SetUp() override {
     VeloraTest::SetUp();
-    host = std::make_unique<Host>();
-    host->Run(
+    host.Run(
         "log = {} function note(...) log[#log + 1] = table.pack(...) end "
         "function take() local l = log log = {} for _, e in ipairs(l) do e.n = nil end return table.unpack(l) end");
-  }
-  void TearDown() override {
-    host.reset();
-    VeloraTest::TearDown();
   }
 
   static void PostCode(int type, int code) {
@@ -34,56 +29,54 @@ class Events : public VeloraTest {
     event->code = code;
     offline::Post(event);
   }
-
-  std::unique_ptr<Host> host;
 };
 
 TEST_F(Events, SettersStoreFunctionsOnly) {
-  EXPECT_EQ(host->Run("return velora.getOnLoginDone()"), "");
-  EXPECT_EQ(host->Run("return velora.setOnLoginDone(print, 'ignored')"), "");
+  EXPECT_EQ(host.Run("return velora.getOnLoginDone()"), "");
+  EXPECT_EQ(host.Run("return velora.setOnLoginDone(print, 'ignored')"), "");
   for (const char* bad : {"nil", "'x'", "{}", "", "velora, print", "setmetatable({}, {__call = print})"})
-    EXPECT_EQ(host->Run("velora.setOnLoginDone(" + std::string(bad) + ") return velora.getOnLoginDone(1) == print"),
+    EXPECT_EQ(host.Run("velora.setOnLoginDone(" + std::string(bad) + ") return velora.getOnLoginDone(1) == print"),
               "true")
         << bad;
-  EXPECT_EQ(host->Run("velora:setOnLogoutDone(print) return velora.getOnLogoutDone()"), "");
+  EXPECT_EQ(host.Run("velora:setOnLogoutDone(print) return velora.getOnLogoutDone()"), "");
 }
 
 TEST_F(Events, EachSlotIsItsOwn) {
-  EXPECT_EQ(host->Run("local n, set = 0, {} for k, f in pairs(velora) do local e = k:match('^setOn(.+)') if e then "
-                      "set[e] = function() return e end f(set[e]) end end "
-                      "for e, f in pairs(set) do n = n + 1 assert(velora['getOn' .. e]() == f, e) end return n"),
+  EXPECT_EQ(host.Run("local n, set = 0, {} for k, f in pairs(velora) do local e = k:match('^setOn(.+)') if e then "
+                     "set[e] = function() return e end f(set[e]) end end "
+                     "for e, f in pairs(set) do n = n + 1 assert(velora['getOn' .. e]() == f, e) end return n"),
             "60");
 }
 
 TEST_F(Events, APassDeliversInOrderAndOnce) {
-  host->Run(
+  host.Run(
       "velora.setOnLoginDone(function(...) note('in', ...) end) "
       "velora.setOnLogoutDone(function(...) note('out', ...) end)");
   PostCode(15, 1);
   PostCode(16, -2);
   PostCode(15, 3);
-  EXPECT_EQ(host->Frame(), "");
-  EXPECT_EQ(host->Run("return take()"), "{[1]=\"in\", [2]=1}, {[1]=\"out\", [2]=-2}, {[1]=\"in\", [2]=3}");
-  EXPECT_EQ(host->Frame(), "");
-  EXPECT_EQ(host->Run("return take()"), "");
+  EXPECT_EQ(host.Frame(), "");
+  EXPECT_EQ(host.Run("return take()"), "{[1]=\"in\", [2]=1}, {[1]=\"out\", [2]=-2}, {[1]=\"in\", [2]=3}");
+  EXPECT_EQ(host.Frame(), "");
+  EXPECT_EQ(host.Run("return take()"), "");
 }
 
 TEST_F(Events, AnEventWithoutCallbackIsDroppedForGood) {
   offline::Post(std::make_shared<OrderEvent>(17));
-  EXPECT_EQ(host->Frame(), "");
-  host->Run("velora.setOnOrderCheckDone(note)");
-  EXPECT_EQ(host->Frame(), "");
-  EXPECT_EQ(host->Run("return take()"), "");
+  EXPECT_EQ(host.Frame(), "");
+  host.Run("velora.setOnOrderCheckDone(note)");
+  EXPECT_EQ(host.Frame(), "");
+  EXPECT_EQ(host.Run("return take()"), "");
   EXPECT_TRUE(offline::TakeLog().empty());
 }
 
 TEST_F(Events, ErrorsAreLoggedAndThePassGoesOn) {
-  host->Run(
+  host.Run(
       "velora.setOnLoginDone(function(code) note(code) if code < 9 then error(errors[code], 0) end end) "
       "errors = {'text', 42, 1.5, {}, true, nil, coroutine.create(print), io.stdout}");
   for (int code = 1; code <= 9; ++code) PostCode(15, code);
-  EXPECT_EQ(host->Frame(), "");
-  EXPECT_EQ(host->Run("return #log"), "9");
+  EXPECT_EQ(host.Frame(), "");
+  EXPECT_EQ(host.Run("return #log"), "9");
   const char* const expected[] = {"text",
                                   "42",
                                   "1.5",
@@ -97,9 +90,9 @@ TEST_F(Events, ErrorsAreLoggedAndThePassGoesOn) {
   for (std::size_t i = 0; i < lines.size(); ++i)
     EXPECT_EQ(lines[i], std::string("[VELORA] 0 [Velora callback err] ") + expected[i]);
 
-  host->Run("velora.setOnLoginDone(function() local x = nil; x() end)");
+  host.Run("velora.setOnLoginDone(function() local x = nil; x() end)");
   PostCode(15, 0);
-  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(host.Frame(), "");
   EXPECT_EQ(
       offline::TakeLog(),
       std::vector<std::string>{"[VELORA] 0 [Velora callback err] test:1: attempt to call a nil value (local 'x')"});
@@ -108,20 +101,20 @@ TEST_F(Events, ErrorsAreLoggedAndThePassGoesOn) {
 // Lines go to the channel that the SDK's global holds at the time of the call.
 TEST_F(Events, UnknownTypesAreLoggedOnlyWhereTheTableHoldsAValue) {
   for (int type : {60, -1, 61}) offline::Post(std::make_shared<Event>(type));
-  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(host.Frame(), "");
   EXPECT_TRUE(offline::TakeLog().empty());
   const std::uint32_t own = LogChannel;
   LogChannel = tarn::log::RegisterChannel("OTHER");
-  host->Run("velora.setOnLoginDone(function() error('x', 0) end)");
-  GetSdkCallbackTable(host->L, "VELORA");
+  host.Run("velora.setOnLoginDone(function() error('x', 0) end)");
+  GetSdkCallbackTable(host.L, "VELORA");
   for (int key : {60, -1}) {
-    lua_pushboolean(host->L, 0);
-    lua_rawseti(host->L, -2, key);
+    lua_pushboolean(host.L, 0);
+    lua_rawseti(host.L, -2, key);
   }
-  lua_pop(host->L, 1);
+  lua_pop(host.L, 1);
   for (int type : {60, -1, 61}) offline::Post(std::make_shared<Event>(type));
   PostCode(15, 0);
-  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(host.Frame(), "");
   EXPECT_EQ(offline::TakeLog(),
             (std::vector<std::string>{"[OTHER] ERROR Unknown velora event 60", "[OTHER] ERROR Unknown velora event -1",
                                       "[OTHER] 0 [Velora callback err] x"}));
@@ -135,38 +128,31 @@ TEST_F(Events, TheBatchIsReleasedAfterThePassFirstToLast) {
     ~Witness() override { released.push_back(code); }
   };
   released.clear();
-  host->Run("velora.setOnLoginDone(function() early = (early or 0) + released() error('x') end)");
-  lua_register(host->L, "released", [](lua_State* L) {
+  host.Run("velora.setOnLoginDone(function() early = (early or 0) + released() error('x') end)");
+  lua_register(host.L, "released", [](lua_State* L) {
     lua_pushinteger(L, static_cast<lua_Integer>(released.size()));
     return 1;
   });
   for (int i = 1; i <= 3; ++i) offline::Post(std::make_shared<Witness>(i));
-  EXPECT_EQ(host->Frame(), "");
-  EXPECT_EQ(host->Run("return early"), "0");
+  EXPECT_EQ(host.Frame(), "");
+  EXPECT_EQ(host.Run("return early"), "0");
   EXPECT_EQ(released, (std::vector<int>{1, 2, 3}));
 }
 
-TEST_F(Events, CallbacksSetInAPassServeTheNextEventOfIt) {
-  host->Run(
-      "velora.setOnLoginDone(function() velora.setOnLogoutDone(function(...) note('new', ...) end) end) "
+TEST_F(Events, CallbacksSetInAPassServeTheNextEventOfItAndEventsQueuedWait) {
+  lua_register(host.L, "post", [](lua_State*) {
+    PostCode(16, 6);
+    return 0;
+  });
+  host.Run(
+      "velora.setOnLoginDone(function() velora.setOnLogoutDone(function(...) note('new', ...) end) post() end) "
       "velora.setOnLogoutDone(function() note('old') end)");
   PostCode(15, 0);
   PostCode(16, 5);
-  EXPECT_EQ(host->Frame(), "");
-  EXPECT_EQ(host->Run("return take()"), "{[1]=\"new\", [2]=5}");
-}
-
-TEST_F(Events, WhatIsQueuedInAPassWaitsForTheNext) {
-  lua_register(host->L, "post", [](lua_State*) {
-    PostCode(16, 5);
-    return 0;
-  });
-  host->Run("velora.setOnLoginDone(post) velora.setOnLogoutDone(note)");
-  PostCode(15, 0);
-  EXPECT_EQ(host->Frame(), "");
-  EXPECT_EQ(host->Run("return take()"), "");
-  EXPECT_EQ(host->Frame(), "");
-  EXPECT_EQ(host->Run("return take()"), "{[1]=5}");
+  for (const char* code : {"5", "6"}) {
+    EXPECT_EQ(host.Frame(), "");
+    EXPECT_EQ(host.Run("return take()"), std::string("{[1]=\"new\", [2]=") + code + "}");
+  }
 }
 
 // What a layout's callback receives when nothing of the payload is set, and when everything is.
@@ -208,7 +194,7 @@ TEST_F(Events, EveryEventReachesItsCallbackWithItsArguments) {
 #undef VELORA_EVENT
   };
   // Names an object by the one class whose getter answers for it, and shows a zero byte as 0.
-  host->Run(R"(
+  host.Run(R"(
     local getters = {PadEvent = 'get_action', OrderInfo = 'get_count', AccountInfo = 'get_rank',
                      SkuDetailsInfo = 'get_type'}
     function name(v)
@@ -223,17 +209,17 @@ TEST_F(Events, EveryEventReachesItsCallbackWithItsArguments) {
     end
     function receive(...) got = table.pack(...) for i = 1, got.n do got[i] = name(got[i]) end end)");
   for (const Row& row : rows) {
-    host->Run(std::string("velora.setOn") + row.name + "(receive)");
+    host.Run(std::string("velora.setOn") + row.name + "(receive)");
     const Arguments& arguments = kLayouts.at(row.layout);
     for (const bool filled : {false, true}) {
       offline::Post(MakeEvent(row.type, filled));
-      EXPECT_EQ(host->Frame(), "");
-      EXPECT_EQ(host->Run("local g = got got = nil return table.unpack(g, 1, g.n)"),
+      EXPECT_EQ(host.Frame(), "");
+      EXPECT_EQ(host.Run("local g = got got = nil return table.unpack(g, 1, g.n)"),
                 filled ? arguments.full : arguments.empty)
           << row.name;
     }
   }
-  host->Run("collectgarbage()");
+  host.Run("collectgarbage()");
   EXPECT_EQ(offline::LiveRecords(), 0u);
   EXPECT_TRUE(offline::TakeLog().empty());
 }
@@ -244,9 +230,9 @@ TEST_F(Events, BlocksOfLengthZeroAreEmptyStrings) {
   auto event = std::make_shared<TextBytesEvent>(59);
   event->bytes = &kEmpty;
   offline::Post(event);
-  host->Run("velora.setOnDownloadFinish2(note)");
-  EXPECT_EQ(host->Frame(), "");
-  EXPECT_EQ(host->Run("return take()"), "{[1]=\"\", [2]=\"\"}");
+  host.Run("velora.setOnDownloadFinish2(note)");
+  EXPECT_EQ(host.Frame(), "");
+  EXPECT_EQ(host.Run("return take()"), "{[1]=\"\", [2]=\"\"}");
 }
 
 TEST_F(Events, ObjectsFromEventsStayUsableAndAreCollectedInAnyOrder) {
@@ -261,11 +247,11 @@ TEST_F(Events, ObjectsFromEventsStayUsableAndAreCollectedInAnyOrder) {
       offline::Post(event);
     }
   }
-  host->Run("pads = {} velora.setOnControllerStateEvent(function(pad) pads[#pads + 1] = pad end)");
-  EXPECT_EQ(host->Frame(), "");
-  EXPECT_EQ(host->Frame(), "");
-  EXPECT_EQ(host->Run("pads[1] = nil collectgarbage() local p = pads[2] return p:get_keyCode(), p:get_eventTime(), "
-                      "p:get_pressure(), p:get_deviceId(), velora.PadEvent.get_x(p)"),
+  host.Run("pads = {} velora.setOnControllerStateEvent(function(pad) pads[#pads + 1] = pad end)");
+  EXPECT_EQ(host.Frame(), "");
+  EXPECT_EQ(host.Frame(), "");
+  EXPECT_EQ(host.Run("pads[1] = nil collectgarbage() local p = pads[2] return p:get_keyCode(), p:get_eventTime(), "
+                     "p:get_pressure(), p:get_deviceId(), velora.PadEvent.get_x(p)"),
             "96, 1099511627776, 0.25, -3, 0.0");
   EXPECT_EQ(offline::LiveRecords(), 1u);
 }

@@ -112,7 +112,11 @@ std::string Render(lua_State* L, int index) {
   }
 }
 
-Host::Host(bool initialise) : L(lua_newstate(memory::LuaAllocator, nullptr)) {
+Host::Host(bool initialise) { Open(initialise); }
+
+void Host::Open(bool initialise) {
+  Close();
+  L = lua_newstate(memory::LuaAllocator, nullptr);
   luaL_openlibs(L);
   // With VELORA_AGGRESSIVE_GC set, a full cycle at every chance finds what is not anchored.
   if (std::getenv("VELORA_AGGRESSIVE_GC") != nullptr) {
@@ -226,6 +230,11 @@ void Check(Host& host, const char* chunk, const std::string& results, const std:
 void VeloraTest::SetUp() {
   tarn::velora::offline::SetLogToStderr(false);
   tarn::velora::offline::Reset();
+}
+
+void HostTest::TearDown() {
+  host.Close();
+  VeloraTest::TearDown();
 }
 
 void VeloraTest::TearDown() {

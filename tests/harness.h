@@ -50,8 +50,9 @@ class Host {
   // Runs frames until the Lua expression is true; fails the test after two seconds.
   void FramesUntil(const std::string& expression);
 
-  // Closes the state before the host goes.
+  // Closes the state before the host goes, and opens another.
   void Close();
+  void Open(bool initialise = true);
 
   lua_State* L = nullptr;
 };
@@ -70,6 +71,14 @@ class VeloraTest : public testing::Test {
  protected:
   void SetUp() override;
   void TearDown() override;
+};
+
+// The same with a host, which is closed before that.
+class HostTest : public VeloraTest {
+ protected:
+  void TearDown() override;
+
+  Host host;
 };
 
 }  // namespace tests

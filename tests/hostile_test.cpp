@@ -41,16 +41,15 @@ int SetDeed(lua_State* L) {
   return 1;
 }
 
-class Hostile : public VeloraTest {
+class Hostile : public HostTest {
  protected:
   void SetUp() override {
     VeloraTest::SetUp();
     offline::SetCallHook(Hook);
     deed = Deed::kNothing;
     hooked.clear();
-    host = std::make_unique<Host>();
-    lua_register(host->L, "deed", SetDeed);
-    host->Run(R"(
+    lua_register(host.L, "deed", SetDeed);
+    host.Run(R"(
       order, share, product = velora.OrderInfo.new('o'), velora.ShareInfo.new('s'), velora.ProductInfo.new()
       function noop() end
       -- Runs `action` whenever the collector finishes a cycle, which it does at every chance, until `stop` is called.
@@ -96,26 +95,23 @@ class Hostile : public VeloraTest {
 
   void TearDown() override {
     offline::SetCallHook(nullptr);
-    host.reset();
-    VeloraTest::TearDown();
+    HostTest::TearDown();
   }
 
   // While the collector rests, since what haunts may raise in any script.
   void StopHaunting() {
-    lua_gc(host->L, LUA_GCSTOP, 0);
-    EXPECT_EQ(host->Run("stop()"), "");
-    lua_gc(host->L, LUA_GCRESTART, 0);
+    lua_gc(host.L, LUA_GCSTOP, 0);
+    EXPECT_EQ(host.Run("stop()"), "");
+    lua_gc(host.L, LUA_GCRESTART, 0);
   }
 
   // The host still works.
   void ExpectSound() {
-    EXPECT_EQ(host->Run("local o = velora.OrderInfo.new('after') o:set_count(3) velora.setOnExitApp(noop) "
-                        "return o:get_productId(), o:get_count(), velora.getOnExitApp() == noop"),
+    EXPECT_EQ(host.Run("local o = velora.OrderInfo.new('after') o:set_count(3) velora.setOnExitApp(noop) "
+                       "return o:get_productId(), o:get_count(), velora.getOnExitApp() == noop"),
               "\"after\", 3, true");
-    EXPECT_EQ(lua_gettop(host->L), 0);
+    EXPECT_EQ(lua_gettop(host.L), 0);
   }
-
-  std::unique_ptr<Host> host;
 };
 
 // The collector runs in the module's own functions only, and finishes a cycle, with the action at its end, as soon as
@@ -130,8 +126,8 @@ TEST_F(Hostile, FinalisersThatRaiseOrInterfereWhileTheModuleWorks) {
            "velora.setOnLoginDone(print) velora.download.setSyncDownloadHandler()",
            "velora.download.setSyncDownloadHandler{onInited = noop, onProgress = noop, onFinish = noop}",
        }) {
-    host->Run(std::string("function deed() ") + action + " end");
-    EXPECT_EQ(host->Run(R"(
+    host.Run(std::string("function deed() ") + action + " end");
+    EXPECT_EQ(host.Run(R"(
       collectgarbage('stop') collectgarbage('setpause', 0) collectgarbage('setstepmul', 1000000)
       local calls, raised, action = 0, 0
       local function finish() action() end
@@ -156,41 +152,37 @@ TEST_F(Hostile, FinalisersThatRaiseOrInterfereWhileTheModuleWorks) {
 
 TEST_F(Hostile, TablesThatChangeWhileTheyAreRead) {
   EXPECT_EQ(
-      host->Run("local t t = setmetatable({'a', 'b', 'c'}, {__len = function() for k in pairs(t) do t[k] = nil end "
-                "return 3 end}) velora.zvDeleteInviters(t) share:set_toUserList(t) return share:get_toUserList()"),
+      host.Run("local t t = setmetatable({'a', 'b', 'c'}, {__len = function() for k in pairs(t) do t[k] = nil end "
+               "return 3 end}) velora.zvDeleteInviters(t) share:set_toUserList(t) return share:get_toUserList()"),
       "{}");
-  EXPECT_EQ(host->Run("share:set_toUserList(setmetatable({'a'}, {__len = function() share:set_toUserList{'inner'} "
-                      "return 1 end})) return share:get_toUserList()"),
+  EXPECT_EQ(host.Run("share:set_toUserList(setmetatable({'a'}, {__len = function() share:set_toUserList{'inner'} "
+                     "return 1 end})) return share:get_toUserList()"),
             "{[1]=\"a\"}");
-  EXPECT_EQ(host->Run("share:set_toUserList(setmetatable({'a'}, {__len = function() velora.ShareInfo.__gc(share) "
-                      "return 1 end})) return share:get_toUserList()"),
+  EXPECT_EQ(host.Run("share:set_toUserList(setmetatable({'a'}, {__len = function() velora.ShareInfo.__gc(share) "
+                     "return 1 end})) return share:get_toUserList()"),
             "");
-  EXPECT_EQ(host->Run("local t = {} for i = 1, 100 do t[i] = i + 0.5 end haunt(function() for k in pairs(t) "
-                      "do t[k] = nil end end) velora.zvDeleteInviters(t) product:set_sdkPids(t)"),
+  EXPECT_EQ(host.Run("local t = {} for i = 1, 100 do t[i] = i + 0.5 end haunt(function() for k in pairs(t) "
+                     "do t[k] = nil end end) velora.zvDeleteInviters(t) product:set_sdkPids(t)"),
             "");
   StopHaunting();
-  EXPECT_EQ(host->Run("local t = {} t[1], t.k, t[t] = t, t, t velora.zvDeleteInviters(t) velora.zvDisplayQuests(t) "
-                      "product:set_sdkPids(t) product:set_jellRatios(t) return product:get_sdkPids(), "
-                      "product:get_jellRatios()"),
-            "{}, {\"1\"=0, \"k\"=0}");
   ExpectSound();
 }
 
 // Each event layout, while every allocation may run a finaliser that raises: the error is a script's error.
 TEST_F(Hostile, FinalisersThatRaiseWhileThePumpBuildsArguments) {
-  host->Run(
+  host.Run(
       "seen = 0 for name, f in pairs(velora) do if name:find('^setOn') then f(function() seen = seen + 1 end) end end "
       "haunt(function() error('from the grave', 0) end)");
   constexpr int kEvents = 600;
   for (int i = 0; i < kEvents; ++i) offline::Post(MakeEvent(i % 60, true));
-  EXPECT_EQ(host->Frame(), "");
+  EXPECT_EQ(host.Frame(), "");
   StopHaunting();
   const auto lines = offline::TakeLog();
   EXPECT_GT(lines.size(), 0u);
   for (const std::string& line : lines)
     EXPECT_EQ(line, "[VELORA] 0 [Velora callback err] error in __gc metamethod (from the grave)");
   // Every event either reached its callback or is accounted for by a line.
-  EXPECT_EQ(std::stoul(host->Run("return seen")) + lines.size(), std::size_t{kEvents});
+  EXPECT_EQ(std::stoul(host.Run("return seen")) + lines.size(), std::size_t{kEvents});
   ExpectSound();
 }
 
@@ -210,10 +202,10 @@ TEST_F(Hostile, CallbacksThatMisbehave) {
            "error(setmetatable({}, {__tostring = function() error('worse') end}))",
            "error(('x'):rep(1000000))",
        }) {
-    host->Run(std::string("f = function() ") + body + " end velora.setOnLoginDone(f)");
+    host.Run(std::string("f = function() ") + body + " end velora.setOnLoginDone(f)");
     for (int i = 0; i < 2; ++i) offline::Post(std::make_shared<CodeEvent>(15));
-    EXPECT_EQ(host->Frame(), "") << body;
-    EXPECT_EQ(host->Run("setmetatable(_G, nil)"), "");
+    EXPECT_EQ(host.Frame(), "") << body;
+    EXPECT_EQ(host.Run("setmetatable(_G, nil)"), "");
     ExpectSound();
   }
 }
@@ -223,8 +215,8 @@ TEST_F(Hostile, CallbacksThatMisbehave) {
 TEST_F(Hostile, AnSdkThatThrows) {
   for (const auto& [what, text] :
        {std::pair{Deed::kThrow, "the SDK broke"}, {Deed::kRunOutOfMemory, "not enough memory"}}) {
-    EXPECT_EQ(host->Run("what, text = " + std::to_string(static_cast<int>(what)) + ", '" + text + "'"), "");
-    EXPECT_EQ(host->Run(R"(
+    EXPECT_EQ(host.Run("what, text = " + std::to_string(static_cast<int>(what)) + ", '" + text + "'"), "");
+    EXPECT_EQ(host.Run(R"(
       callAll(function(k, f, ...)
         deed(what, k)
         local ok, message = pcall(f, ...)
@@ -242,13 +234,13 @@ TEST_F(Hostile, AnSdkThatThrows) {
   }
   EXPECT_GT(hooked.size(), 250u);
   deed = Deed::kThrow;
-  EXPECT_EQ(host->Frame(), "the SDK broke");
+  EXPECT_EQ(host.Frame(), "the SDK broke");
   deed = Deed::kNothing;
 }
 
 // The script's handler runs in the middle of a call and finishes the very objects in hand.
 TEST_F(Hostile, AnSdkThatCallsScriptsInTheMiddleOfACall) {
-  EXPECT_EQ(host->Run(R"(
+  EXPECT_EQ(host.Run(R"(
     local handler = {onInited = noop, onFinish = noop, onProgress = function()
       share:set_linkParams{k = 'v'} share:set_toUserList{'b'} product:set_sdkPids{}
       velora.OrderInfo.__gc(order) velora.ShareInfo.__gc(share) velora.ProductInfo.__gc(product)
@@ -277,31 +269,17 @@ TEST_F(Hostile, AnSdkThatCallsScriptsInTheMiddleOfACall) {
   EXPECT_GT(hooked.size(), 250u);
 }
 
-// Lua finalises nothing that is made while the state closes; what it owns is given back all the same.
-TEST_F(Hostile, FinalisersThatMakeObjectsWhileTheStateCloses) {
-  host = std::make_unique<Host>(false);
-  const char* const make =
-      "planted = {planted, setmetatable({}, {__gc = function() late = velora.OrderInfo.new('x') later = "
-      "velora.ShareInfo.new() "
-      "velora.ProductInfo.new():set_sdkPids{a = 'b'} tostring(late) velora.OrderInfo.get_aid(late) end})}";
-  host->Run(make);
-  InitLuaVelora(host->L);
-  host->Run(make);
-  host->Close();
-  EXPECT_EQ(offline::LiveRecords(), 0u);
-}
-
-// With no memory for the call of a finaliser, Lua drops it; the record goes when the state closes, and no object of any
-// class answers afterwards, though its own finaliser never ran.
+// With no memory for the call of a finaliser, Lua drops it; the record goes when the state closes. Afterwards no object
+// of any class answers, though its own finaliser never ran, and none is made.
 TEST_F(Hostile, FinalisersThatFindNoMemory) {
-  host = std::make_unique<Host>(false);
+  host.Open(false);
   static int answers;
   answers = 0;
-  lua_register(host->L, "answered", [](lua_State*) {
+  lua_register(host.L, "answered", [](lua_State*) {
     ++answers;
     return 0;
   });
-  host->Run(R"(
+  host.Run(R"(
     getters = {OrderInfo = 'get_count', ShareInfo = 'get_type', ProductInfo = 'get_exchangeRatio', PadEvent = 'get_x',
                AccountInfo = 'get_rank', QueryRankInfo = 'get_count', SkuDetailsInfo = 'get_title'}
     weak, kept = setmetatable({}, {__mode = 'k'}), {}
@@ -310,18 +288,20 @@ TEST_F(Hostile, FinalisersThatFindNoMemory) {
       for object in pairs(kept) do n = n + select('#', velora[class][getters[class]](object)) end
       return n
     end
-    last = setmetatable({}, {__gc = function() for class in pairs(getters) do
-      if count(class) > 0 then answered() end end end}))");
-  InitLuaVelora(host->L);
-  host->Run("velora.setOnControllerStateEvent(function(pad) weak[pad] = true end)");
-  lua_State* L = host->L;
+    last = setmetatable({}, {__gc = function()
+      for class in pairs(getters) do if count(class) > 0 then answered() end end
+      if velora.OrderInfo.new('late') or velora.ShareInfo.new() or velora.ProductInfo.new() then answered() end
+    end}))");
+  InitLuaVelora(host.L);
+  host.Run("velora.setOnControllerStateEvent(function(pad) weak[pad] = true end)");
+  lua_State* L = host.L;
   lua_gc(L, LUA_GCSTOP, 0);
   for (const char* type :
        {"OrderInfo", "ShareInfo", "ProductInfo", "PadEvent", "AccountInfo", "QueryRankInfo", "SkuDetailsInfo"}) {
     for (int i = 0; i < 20; ++i) offline::Post(MakeEvent(10, true));  // PadEvents
-    EXPECT_EQ(host->Frame(), "");
-    host->Run(std::string("local new = velora.") + type +
-              ".new for i = 1, new and 20 or 0 do weak[new(1, 2, 3, 4, 5, 6, 7)] = true end");
+    EXPECT_EQ(host.Frame(), "");
+    host.Run(std::string("local new = velora.") + type +
+             ".new for i = 1, new and 20 or 0 do weak[new(1, 2, 3, 4, 5, 6, 7)] = true end");
     for (int i = 0; i < 20; ++i) {
       lua_State* fresh = lua_newthread(L);  // it must allocate for a call within a call
       lua_pushcfunction(fresh, [](lua_State* state) {
@@ -333,12 +313,12 @@ TEST_F(Hostile, FinalisersThatFindNoMemory) {
       memory::Restore();
       EXPECT_NE(status, LUA_OK) << type << i;
       lua_pop(L, 1);
-      host->Run("for object in pairs(weak) do kept[object] = true end");
+      host.Run("for object in pairs(weak) do kept[object] = true end");
     }
-    host->Run("collectgarbage() collectgarbage()");
-    EXPECT_EQ(host->Run(std::string("return count('") + type + "')"), "20") << type;
+    host.Run("collectgarbage() collectgarbage()");
+    EXPECT_EQ(host.Run(std::string("return count('") + type + "')"), "20") << type;
   }
-  host->Close();
+  host.Close();
   EXPECT_EQ(answers, 0);
   EXPECT_EQ(offline::LiveRecords(), 0u);
 }
@@ -353,18 +333,18 @@ TEST_F(Hostile, FinalisersThatCollectWhileTheStateCloses) {
            "collectgarbage('restart') velora.zvGetCheckedOrders()",
            "local o = velora.OrderInfo.new('x') deed(3) velora.zvCheckOrder(o) o:set_aid(1.5)",
        }) {
-    host = std::make_unique<Host>();
-    lua_register(host->L, "deed", SetDeed);
+    host.Open();
+    lua_register(host.L, "deed", SetDeed);
     offline::SetCheckedOrders(std::vector(5000, offline::MakeOrder({})));
-    host->Run(
+    host.Run(
         "velora.download.setSyncDownloadHandler{onInited = print, onFinish = print, "
         "onProgress = function() collectgarbage() end}");
     // More finalisers than a few steps of the collector run, so that the closing comes in the middle of a list.
-    host->Run("objects = {} for i = 1, 1000 do objects[i] = velora.OrderInfo.new('x') end");
-    host->Run(std::string("planted = setmetatable({}, {__gc = function() ") + action + " end})");
-    lua_gc(host->L, LUA_GCCOLLECT, 0);
-    lua_gc(host->L, LUA_GCSTOP, 0);
-    host->Close();
+    host.Run("objects = {} for i = 1, 1000 do objects[i] = velora.OrderInfo.new('x') end");
+    host.Run(std::string("planted = setmetatable({}, {__gc = function() ") + action + " end})");
+    lua_gc(host.L, LUA_GCCOLLECT, 0);
+    lua_gc(host.L, LUA_GCSTOP, 0);
+    host.Close();
     offline::Reset();
     EXPECT_EQ(offline::LiveRecords(), 0u) << action;
   }
@@ -372,21 +352,21 @@ TEST_F(Hostile, FinalisersThatCollectWhileTheStateCloses) {
 
 // A finaliser that sets a handler of its own in the middle of setting one: whoever comes last wins, nothing is mixed.
 TEST_F(Hostile, HandlersSetWhileAHandlerIsSet) {
-  host->Run(
+  host.Run(
       "good = {onInited = noop, onProgress = noop, onFinish = noop} "
       "haunt(function() velora.download.setSyncDownloadHandler(good) end)");
   for (const char* call : {"velora.download.setSyncDownloadHandler()",
                            "pcall(velora.download.setSyncDownloadHandler, {onInited = print})"}) {
     for (int i = 0; i < 50; ++i) {
-      host->Run(std::string(call) +
-                " collectgarbage('stop') off = velora.download.getSyncDownloadHandler() == nil "
-                "collectgarbage('restart')");
+      host.Run(std::string(call) +
+               " collectgarbage('stop') off = velora.download.getSyncDownloadHandler() == nil "
+               "collectgarbage('restart')");
       EXPECT_EQ(luavelora::downloadHandler.state() == nullptr, offline::Handlers().empty()) << call;
     }
-    lua_gc(host->L, LUA_GCSTOP, 0);
-    EXPECT_EQ(host->Run(std::string(call) + " return velora.download.getSyncDownloadHandler()"), "") << call;
+    lua_gc(host.L, LUA_GCSTOP, 0);
+    EXPECT_EQ(host.Run(std::string(call) + " return velora.download.getSyncDownloadHandler()"), "") << call;
     EXPECT_TRUE(offline::Handlers().empty()) << call;
-    lua_gc(host->L, LUA_GCRESTART, 0);
+    lua_gc(host.L, LUA_GCRESTART, 0);
   }
   StopHaunting();
 }

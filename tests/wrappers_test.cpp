@@ -8,13 +8,8 @@ namespace {
 
 namespace offline = tarn::velora::offline;
 
-class Wrappers : public VeloraTest {
+class Wrappers : public HostTest {
  protected:
-  void TearDown() override {
-    host.Close();
-    VeloraTest::TearDown();
-  }
-
   // Checks `velora.<name>(<arguments>)`; `call` is the expected line's argument list, null for no call.
   void Expect(const std::string& name, const std::string& arguments, const char* call,
               const std::string& results = "") {
@@ -24,8 +19,6 @@ class Wrappers : public VeloraTest {
     const auto calls = call == nullptr ? std::vector<std::string>{} : std::vector{name + "(" + call + ")"};
     EXPECT_EQ(offline::TakeCalls(), calls) << chunk;
   }
-
-  Host host;
 };
 
 TEST_F(Wrappers, QueriesGiveWhatTheSdkAnswers) {

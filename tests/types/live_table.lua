@@ -93,19 +93,6 @@ local function compare(path, described, live)
   end
 end
 
--- An integer has its value in the description unless it is the SDK's.
-local function compareFixedValues()
-  local sdk = {}
-  for line in io.lines("platform/constants.def") do sdk[line:match("^VELORA_CONSTANT%(([%w_]+)") or ""] = true end
-  for name, member in sortedPairs(globals.velora.fields) do
-    if member.kind == "constant" and math.type(velora[name]) == "integer" then
-      local fixed = member.type ~= "integer"
-      if fixed == (sdk[name] or false) then fail("velora.%s is described as %s", name, member.type) end
-      if fixed then count("fixed integers") end
-    end
-  end
-end
-
 -- A record as offline.post takes it: each field of the class with a value of its getter's type.
 local function record(class)
   local fields = {}
@@ -299,7 +286,6 @@ end
 compare("velora.", globals.velora.fields, velora)
 local playerGlobals = annotations.globals(annotations.read("types/player.lua"))
 for _, name in ipairs{ "player", "offline" } do compare(name .. ".", playerGlobals[name].fields, _G[name]) end
-compareFixedValues()
 postEvents()
 player.onFrame(function()
   compareEvents()
