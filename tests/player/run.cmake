@@ -1,6 +1,6 @@
-# Plays one script and compares exit status and output with what is expected. Variables: PLAYER (a list: a program and what goes with it),
-# ARGUMENTS, STATUS (a number, or CMake's text for the signal that ends it), and where they matter STDOUT and STDERR,
-# files with the expected text, and PATTERN, a regular expression for both streams.
+# Plays one script and compares exit status and output with what is expected. Variables: PLAYER (a list: a program and
+# what goes with it), ARGUMENTS, STATUS (a number, or CMake's text for the signal that ends it), and where they matter
+# STDOUT and STDERR, files with the expected text, and PATTERN, a regular expression for both streams.
 separate_arguments(ARGUMENTS UNIX_COMMAND "${ARGUMENTS}")
 execute_process(COMMAND ${PLAYER} ${ARGUMENTS} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err
                 TIMEOUT 60)
