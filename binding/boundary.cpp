@@ -1,4 +1,4 @@
-// The slow paths of the boundary: keeping an exception's text and raising.
+// The slow paths of the boundary: copying an exception's message and raising.
 #include "binding/boundary.h"
 
 #include <cstdio>

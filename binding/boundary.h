@@ -1,5 +1,5 @@
-// The one boundary between Lua and C++. A Lua error is a longjmp or a C++ exception, as the host built its Lua; so
-// every function that Lua calls is an Entry around a body, and the body answers with an Outcome instead of raising.
+// The one boundary between Lua and C++. A Lua error is a longjmp or a C++ exception, depending on how the host built
+// Lua. So every function that Lua calls is an Entry around a body, and the body returns an Outcome instead of raising.
 #pragma once
 
 #include <exception>
@@ -7,12 +7,12 @@
 
 namespace luavelora {
 
-// What a body tells the boundary: how many results stand on the stack, or which error to raise.
-// Small and trivially destructible: nothing is lost when the boundary raises.
+// What a body returns: how many results are on the stack, or which error to raise. Trivially destructible, so that the
+// boundary may raise past it.
 class [[nodiscard]] Outcome {
  public:
   static Outcome Results(int count) { return Outcome(count, nullptr); }
-  // An error with a text that outlives the call, raised with the calling script's position in front.
+  // An error message that outlives the call, raised with the calling script's position in front.
   static Outcome Error(const char* text) { return Outcome(-1, text); }
   // The error value on top of the stack, raised as it is.
   static Outcome Rethrow() { return Outcome(-1, nullptr); }
@@ -28,24 +28,24 @@ class [[nodiscard]] Outcome {
   const char* text_;
 };
 
-// A bad argument: no results, no error.
+// The outcome for a bad argument: no results and no error.
 inline Outcome Refusal() { return Outcome::Results(0); }
 
-// A fixed place for an exception's text, so that nothing is raised while the exception is alive.
+// A copy of an exception's message, so that nothing is raised while the exception is alive.
 class ErrorText {
  public:
-  // What the Lua error for `exception` says.
+  // Returns the message of the Lua error for `exception`; valid while this object lives.
   const char* Of(const std::exception& exception);
 
  private:
   char text_[200];
 };
 
-// Raises what a failed outcome says. Never returns.
+// Raises the error of a failed outcome.
 [[noreturn]] void Raise(lua_State* L, Outcome outcome);
 
-// Runs `body` and turns the C++ exceptions that may come out of it into an outcome. A Lua error passes through,
-// also where it is a C++ exception: nothing is caught but what derives from std::exception.
+// Runs `body` and turns the C++ exceptions that leave it into an outcome. Only std::exception is caught, so a Lua error
+// that is itself a C++ exception passes through.
 template <class Body>
 Outcome Guarded(lua_State* L, ErrorText& text, Body&& body) {
   try {
@@ -59,15 +59,21 @@ Outcome Guarded(lua_State* L, ErrorText& text, Body&& body) {
 template <Outcome (*body)(lua_State*)>
 int Entry(lua_State* L) {
   ErrorText text;
-  const Outcome outcome = Guarded(L, text, [](lua_State* state) { return body(state); });  // known when compiling
+  const Outcome outcome = Guarded(L, text, [](lua_State* state) { return body(state); });  // a lambda is inlined
   if (outcome.Failed()) [[unlikely]]
     Raise(L, outcome);
   return outcome.results();
 }
 
-// Runs `body(L)`, which leaves `results` values on the stack, in protected mode, so that owning objects of the caller
-// may stay alive. Gives Lua's status; when it is not LUA_OK the error value is on top. The body may own nothing
-// across a Lua call that raises. Needs two free stack slots and, before it is called, cannot raise.
+// The row of a function in a registration list.
+template <Outcome (*body)(lua_State*)>
+constexpr luaL_Reg Row(const char* name) {
+  return {name, Entry<body>};
+}
+
+// Runs `body(L)`, which leaves `results` values on the stack, in protected mode, so that the caller's owning objects
+// may stay alive. Returns the status of lua_pcall; on failure the error value is on top. The body must not own anything
+// across a Lua call that can raise. Needs two free stack slots; setting up the call cannot raise.
 template <class Body>
 int Protected(lua_State* L, int results, Body& body) {
   lua_pushcfunction(L, [](lua_State* state) {
@@ -86,7 +92,7 @@ int Protected(lua_State* L, int results, Body& body) {
   return lua_pcall(L, 1, results, 0);
 }
 
-// Pushes one value with `push(L)` in protected mode and gives the outcome of a function whose one result it is.
+// Pushes one value with `push(L)` in protected mode and returns it as the function's single result.
 template <class Push>
 Outcome PushProtected(lua_State* L, Push push) {
   return Protected(L, 1, push) == LUA_OK ? Outcome::Results(1) : Outcome::Rethrow();

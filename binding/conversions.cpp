@@ -79,10 +79,10 @@ std::vector<std::int32_t> ReadIntList(lua_State* L, int index, std::int32_t leng
 
 namespace {
 
-// Calls `entry(key text)` for each entry of the table at `index` whose key has a text, the value being on top.
-// The key itself stays a number where it is one, so the traversal goes on undisturbed.
+// Calls `entry(key)` for each entry of the table at `index` whose key is a string or number, with the value on top. A
+// number stays one on the stack, so that the traversal can go on.
 template <class Entry>
-void ForEachTextKey(lua_State* L, int index, Entry entry) {
+void ForEachKey(lua_State* L, int index, Entry entry) {
   ValueText key;
   lua_pushnil(L);
   while (lua_next(L, index) != 0) {
@@ -91,47 +91,47 @@ void ForEachTextKey(lua_State* L, int index, Entry entry) {
   }
 }
 
+inline void PushValue(lua_State* L, const std::string& text) { PushString(L, text); }
+inline void PushValue(lua_State* L, std::int32_t value) { lua_pushinteger(L, value); }
+
+template <class Map>
+void PushMap(lua_State* L, const Map& map) {
+  lua_createtable(L, 0, TableSize(map.size()));
+  for (const auto& [key, value] : map) {
+    PushString(L, key);
+    PushValue(L, value);
+    lua_rawset(L, -3);
+  }
+}
+
 }  // namespace
 
-StringMap ReadStringMap(lua_State* L, int index) {
+template <>
+StringMap ReadMap(lua_State* L, int index) {
   StringMap map;
   ValueText value;
-  ForEachTextKey(L, index, [&](const char* key) {
+  ForEachKey(L, index, [&](const char* key) {
     if (const char* text = value.Get(L, -1)) map.insert_or_assign(key, text);
   });
   return map;
 }
 
-IntMap ReadIntMap(lua_State* L, int index) {
+template <>
+IntMap ReadMap(lua_State* L, int index) {
   IntMap map;
-  ForEachTextKey(L, index, [&](const char* key) { map.insert_or_assign(key, Low32(lua_tointeger(L, -1))); });
+  ForEachKey(L, index, [&](const char* key) { map.insert_or_assign(key, Low32(lua_tointeger(L, -1))); });
   return map;
 }
 
-void PushStringList(lua_State* L, const StringList& list) {
-  lua_createtable(L, 0, 0);
+void PushContainer(lua_State* L, const StringList& list) {
+  lua_createtable(L, TableSize(list.size()), 0);
   for (std::size_t k = 0; k < list.size(); ++k) {
-    lua_pushstring(L, list[k].c_str());
+    PushString(L, list[k]);
     lua_rawseti(L, -2, static_cast<lua_Integer>(k + 1));
   }
 }
 
-void PushStringMap(lua_State* L, const StringMap& map) {
-  lua_createtable(L, 0, 0);
-  for (const auto& [key, value] : map) {
-    lua_pushstring(L, key.c_str());
-    lua_pushstring(L, value.c_str());
-    lua_rawset(L, -3);
-  }
-}
-
-void PushIntMap(lua_State* L, const IntMap& map) {
-  lua_createtable(L, 0, 0);
-  for (const auto& [key, value] : map) {
-    lua_pushstring(L, key.c_str());
-    lua_pushinteger(L, value);
-    lua_rawset(L, -3);
-  }
-}
+void PushContainer(lua_State* L, const StringMap& map) { PushMap(L, map); }
+void PushContainer(lua_State* L, const IntMap& map) { PushMap(L, map); }
 
 }  // namespace luavelora

@@ -4,6 +4,8 @@
 #include <lua.hpp>
 #include <string>
 
+#include "binding/conversions.h"
+
 namespace luavelora {
 
 inline void SetConstant(lua_State* L, const char* key, lua_Integer value) {
@@ -12,10 +14,9 @@ inline void SetConstant(lua_State* L, const char* key, lua_Integer value) {
   lua_rawset(L, -3);
 }
 
-// The characters up to the first zero byte.
 inline void SetConstant(lua_State* L, const char* key, const std::string& value) {
   lua_pushstring(L, key);
-  lua_pushstring(L, value.c_str());
+  PushString(L, value);
   lua_rawset(L, -3);
 }
 

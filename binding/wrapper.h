@@ -1,5 +1,5 @@
 // One template for the wrappers whose rules follow from their SDK operation's type: it tests and reads the Lua
-// arguments, calls the operation and gives its result. A row of a registration list is then the name once.
+// arguments, calls the operation and pushes its result. A registration row then only names the operation.
 #pragma once
 
 #include <string>
@@ -13,7 +13,8 @@
 
 namespace luavelora {
 
-// How one parameter type is tested, read into a view that owns nothing, and made from the view for the call.
+// How to test, read and construct a parameter of one type. `Read` returns a view, which owns nothing; `Make` builds the
+// SDK's value from it.
 template <class Type>
 struct Parameter;
 
@@ -57,22 +58,22 @@ struct Parameter<bool> {
   static bool Make(View view) { return view; }
 };
 
-// Gives what an operation returned.
-inline Outcome GiveResult(lua_State* L, bool value) {
+// Pushes an operation's return value. No string, or an empty one, is no result.
+inline Outcome PushResult(lua_State* L, bool value) {
   lua_pushboolean(L, value);
   return Outcome::Results(1);
 }
-inline Outcome GiveResult(lua_State* L, std::int32_t value) {
+inline Outcome PushResult(lua_State* L, std::int32_t value) {
   lua_pushinteger(L, value);
   return Outcome::Results(1);
 }
-inline Outcome GiveResult(lua_State* L, const char* text) {
+inline Outcome PushResult(lua_State* L, const char* text) {
   if (text == nullptr || *text == '\0') return Outcome::Results(0);
   lua_pushstring(L, text);
   return Outcome::Results(1);
 }
 
-// Whether a view points into an object, which script code may finish.
+// Whether a view points into an object, which script code may finalize.
 template <class View>
 inline constexpr bool kIsObject = std::is_pointer_v<View> && !std::is_same_v<View, const char*>;
 
@@ -82,12 +83,12 @@ bool IsMissing(const View& view) {
   return false;
 }
 
-// Tests the arguments, reads them, and calls `use(views...)` with the views of all parameters. An object is tested by
-// reading it.
+// Tests the arguments, reads them, and calls `use(views...)` with the views of all parameters. For objects, Read is the
+// test: it returns null for a wrong one.
 template <class... Parameters, class Use>
 Outcome WithArguments(lua_State* L, Use use) {
   static_assert(sizeof...(Parameters) < 2 || !(kIsObject<typename Parameter<Parameters>::View> || ...),
-                "reading a text after an object may finish the object");
+                "reading a string after an object may finalize the object");
   return [&]<std::size_t... i>(std::index_sequence<i...>) {
     if (!(Parameter<Parameters>::Test(L, static_cast<int>(i) + 1) && ...)) return Refusal();
     const std::tuple<typename Parameter<Parameters>::View...> views{
@@ -110,9 +111,9 @@ Outcome CallOperation(lua_State* L, void (*operation)(Parameters...)) {
 template <class Result, class... Parameters>
 Outcome CallOperation(lua_State* L, Result (*operation)(Parameters...)) {
   static_assert(std::is_arithmetic_v<Result> || sizeof...(Parameters) == 0,
-                "a text is pushed with nothing owned alive");
+                "a string is pushed while nothing is owned");
   return WithArguments<Parameters...>(
-      L, [L, operation](auto... views) { return GiveResult(L, operation(Parameter<Parameters>::Make(views)...)); });
+      L, [L, operation](auto... views) { return PushResult(L, operation(Parameter<Parameters>::Make(views)...)); });
 }
 
 inline Outcome CallOperation(lua_State* L, bool (*operation)(std::string&)) { return TextResult(L, operation); }
@@ -123,7 +124,7 @@ inline Outcome CallOperation(lua_State* L, bool (*operation)(const std::string&,
   });
 }
 
-// The wrappers' own texts for a list argument that is none.
+// Raised for a list argument that is not a table. The wording is part of the interface.
 inline constexpr const char* kNeedsTable = "ptrmust be table";
 
 inline Outcome CallOperation(lua_State* L, void (*operation)(const tarn::velora::StringList&)) {

@@ -1,4 +1,4 @@
-// Copies the SDK's statics into the module table, as they are when the module starts.
+// Copies the SDK's statics, as they are when the module starts, and the module's own codes into the module table.
 #include "constants/constants.h"
 
 #include <limits>
@@ -13,7 +13,7 @@ const std::string& LuaValue(const std::string& text) { return text; }
 
 lua_Integer LuaValue(std::int32_t value) { return value; }
 
-// Truncated toward zero; what lies outside 32 bits is clamped, and what is no number is 0.
+// Truncates toward zero; values outside 32 bits are clamped, and NaN becomes 0.
 lua_Integer LuaValue(float value) {
   constexpr float kLimit = 2147483648.0f;
   if (value >= kLimit) return std::numeric_limits<std::int32_t>::max();
@@ -21,15 +21,34 @@ lua_Integer LuaValue(float value) {
   return value == value ? static_cast<std::int32_t>(value) : 0;
 }
 
+template <class Kind>
+void Set(lua_State* L, const char* name, const void* value) {
+  SetConstant(L, name, LuaValue(*static_cast<const Kind*>(value)));
+}
+
+// Not constexpr: the address of imported data is no constant expression for every compiler.
+const struct {
+  const char* name;
+  const void* value;
+  void (*set)(lua_State* L, const char* name, const void* value);
+} kSdkConstants[] = {
+#define VELORA_CONSTANT(name, kind) {#name, &tarn::velora::ConstProp::name, Set<tarn::velora::ConstProp::kind>},
+#include "platform/constants.def"
+};
+
+constexpr struct {
+  const char* name;
+  lua_Integer value;
+} kModuleConstants[] = {
+#define VELORA_MODULE_CONSTANT(name, value) {#name, value},
+#include "constants/module_constants.def"
+};
+
 }  // namespace
 
 void RegisterSdkConstants(lua_State* L) {
-#define VELORA_CONSTANT(name, kind) SetConstant(L, #name, LuaValue(tarn::velora::ConstProp::name));
-#include "platform/constants.def"
-#undef VELORA_CONSTANT
-#define VELORA_MODULE_CONSTANT(name, value) SetConstant(L, #name, lua_Integer{value});
-#include "constants/module_constants.def"
-#undef VELORA_MODULE_CONSTANT
+  for (const auto& constant : kSdkConstants) constant.set(L, constant.name, constant.value);
+  for (const auto& constant : kModuleConstants) SetConstant(L, constant.name, constant.value);
 }
 
 }  // namespace luavelora

@@ -5,7 +5,14 @@ struct lua_State;
 
 namespace luavelora {
 
-// Stores the 701 constants raw in the table on top of the stack, which stays there. May raise.
+inline constexpr int kConstants = 0
+#define VELORA_CONSTANT(name, kind) +1
+#include "platform/constants.def"
+#define VELORA_MODULE_CONSTANT(name, value) +1
+#include "constants/module_constants.def"
+    ;
+
+// Stores the constants raw in the table on top of the stack, which stays there. May raise.
 void RegisterSdkConstants(lua_State* L);
 
 }  // namespace luavelora

@@ -2,7 +2,7 @@
 #include "download/download_table.h"
 
 #include "binding/boundary.h"
-#include "binding/closing.h"
+#include "binding/ownership.h"
 #include "binding/wrapper.h"
 #include "download/handler.h"
 #include "platform/binding_helpers.h"
@@ -12,8 +12,8 @@ namespace {
 
 namespace sdk = tarn::velora::download;
 
-// Where SetSyncDownloadHandler keeps things on the stack. All that may run script code, which may set a handler of its
-// own, comes first; from then on nothing is made.
+// Where SetSyncDownloadHandler keeps things on the stack. Everything that can run script code, which could set a
+// handler itself, happens first; nothing is allocated afterwards.
 constexpr int kTable = 2;
 constexpr int kFirstKey = kTable + 1;
 constexpr int kFirstFunction = kFirstKey + kHandlerFunctions;
@@ -24,7 +24,7 @@ void PrepareStack(lua_State* L) {
   for (const char* key : kHandlerKeys) lua_pushstring(L, key);
 }
 
-// Takes the old functions out of the callback table.
+// Removes the old functions from the callback table.
 void ClearFunctions(lua_State* L) {
   for (int i = 0; i < kHandlerFunctions; ++i) {
     lua_pushvalue(L, kFirstKey + i);
@@ -37,7 +37,7 @@ void ClearFunctions(lua_State* L) {
   }
 }
 
-// Pushes the handler table's functions from kFirstFunction on, and tells whether all are there.
+// Pushes the handler table's functions from kFirstFunction on and returns whether all are there.
 bool ReadFunctions(lua_State* L) {
   for (int i = 0; i < kHandlerFunctions; ++i) {
     lua_pushvalue(L, kFirstKey + i);
@@ -68,7 +68,7 @@ Outcome SetSyncDownloadHandler(lua_State* L) {
   const bool given = lua_gettop(L) > 0;
   if (given && !lua_istable(L, 1)) return Refusal();
   PrepareStack(L);
-  const StateRecord* state = StateRecordOf(L);
+  const ModuleState* state = ModuleStateOf(L);
   sdk::enableAsyncEvent(false);
   sdk::removeSyncDownloadHandler(&downloadHandler);
   downloadHandler.SetState(nullptr);
@@ -89,14 +89,10 @@ Outcome GetSyncDownloadHandler(lua_State* L) {
 }  // namespace
 
 const luaL_Reg kDownloadFunctions[] = {
-    {"init", Entry<Wrapper<&sdk::init>>},
-    {"query", Entry<Wrapper<&sdk::query>>},
-    {"extendFunc", Entry<Wrapper<&sdk::extendFunc>>},
-    {"getDownloadSDKVersion", Entry<Wrapper<&sdk::getDownloadSDKVersion>>},
-    {"getOrbitSessionId", Entry<Wrapper<&sdk::getOrbitSessionId>>},
-    {"disableDownloadFinish2", Entry<Wrapper<&sdk::disableDownloadFinish2>>},
-    {"setSyncDownloadHandler", Entry<SetSyncDownloadHandler>},
-    {"getSyncDownloadHandler", Entry<GetSyncDownloadHandler>},
+#define VELORA_DOWNLOAD_OPERATION(name) Row<Wrapper<&sdk::name>>(#name),
+#include "platform/download.def"
+    Row<SetSyncDownloadHandler>("setSyncDownloadHandler"),
+    Row<GetSyncDownloadHandler>("getSyncDownloadHandler"),
     {nullptr, nullptr},
 };
 

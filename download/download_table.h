@@ -5,7 +5,7 @@
 
 namespace luavelora {
 
-// The eight functions, closed by an empty row.
+// The functions, with an empty row at the end.
 extern const luaL_Reg kDownloadFunctions[];
 
 }  // namespace luavelora

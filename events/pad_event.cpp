@@ -1,4 +1,4 @@
-// `PadEvent`: a read-only view of the SDK's controller record. Every getter asks the record anew.
+// `PadEvent`: a read-only view of the SDK's controller record. Getters read the record on every call.
 #include "events/pad_event.h"
 
 #include "records/fields.h"
@@ -9,15 +9,14 @@ namespace {
 using tarn::velora::PadRecord;
 
 const luaL_Reg kFunctions[] = {
-    {"__gc", Entry<Collect<PadRecord>>},
+    Row<Collect<PadRecord>>("__gc"),
 #define VELORA_FIELD_READ_ONLY(name, Family) VELORA_GETTER(PadRecord, name, Family),
 #include "platform/pad_record.def"
-#undef VELORA_FIELD_READ_ONLY
     {nullptr, nullptr},
 };
 
 }  // namespace
 
-void RegisterPadEvent(lua_State* L) { RegisterClass<PadRecord>(L, {kFunctions}); }
+void RegisterPadEvent(lua_State* L) { RegisterClass<PadRecord>(L, kFunctions); }
 
 }  // namespace luavelora

@@ -12,19 +12,16 @@
 #include "platform/operations.h"
 
 namespace luavelora {
-
 namespace {
 
 using tarn::velora::Event;
 
-// One pass. It lives outside the protected call that runs it, so that the batch and a holder on its way into a
-// userdata are released whatever happens.
+// One pass. It lives outside the protected call that runs it, so that the batch is released on every way out.
 struct Pass {
   std::vector<std::shared_ptr<Event>> batch;
   std::size_t next = 0;
-  RecordPusher pusher;
 
-  // Shared references go first to last.
+  // Releases the events in queue order; the order of a vector's own destructor is unspecified.
   ~Pass() {
     for (auto& event : batch) event.reset();
   }
@@ -32,43 +29,40 @@ struct Pass {
 
 constexpr int kTableIndex = 1;
 
-// Calls the slot's function with the arguments that the layout gives.
+// Calls the slot's function with the arguments of the layout.
 template <class Layout>
-void Deliver(lua_State* L, Pass& pass, const Event& event) {
-  const auto& layout = static_cast<const Layout&>(event);
-  Prepare(pass.pusher, layout);
+void Deliver(lua_State* L, ModuleState& state, const Event& event) {
   lua_rawgeti(L, kTableIndex, event.type);
-  const int arguments = Push(L, pass.pusher, layout);
+  const int arguments = PushArguments(L, state, static_cast<const Layout&>(event));
   if (lua_pcallk(L, arguments, 0, 0, 0, nullptr) != LUA_OK) {
     LogCallbackError(L);
     lua_pop(L, 1);
   }
 }
 
-using DeliverFunction = void (*)(lua_State*, Pass&, const Event&);
+using DeliverFunction = void (*)(lua_State*, ModuleState&, const Event&);
 
 constexpr DeliverFunction kDeliver[] = {
 #define VELORA_EVENT(type, name, Layout) Deliver<tarn::velora::Layout>,
 #include "platform/events.def"
-#undef VELORA_EVENT
 };
 
-// The rows stand in the order of their type numbers.
 constexpr int kTypes[] = {
 #define VELORA_EVENT(type, name, Layout) type,
 #include "platform/events.def"
-#undef VELORA_EVENT
 };
 constexpr bool InOrder() {
   for (int i = 0; i < kEventTypes; ++i)
     if (kTypes[i] != i) return false;
   return true;
 }
-static_assert(InOrder());
+static_assert(InOrder(), "the rows of events.def are in the order of their type numbers");
 
-// Delivers the rest of the batch; runs in protected mode. The callback table of a name is one for the life of the
-// state, so it is fetched once; its slots are read anew for every event, since callbacks may change them.
+// Delivers the rest of the batch; runs in protected mode. The callback table never changes during the state's life, so
+// it is fetched once; its slots are read again for every event, since callbacks may change them.
 void DeliverRest(lua_State* L, Pass& pass) {
+  ModuleState* state = ModuleStateOf(L);
+  if (state == nullptr) return;
   GetSdkCallbackTable(L, kCallbackTable);
   while (pass.next < pass.batch.size()) {
     const Event& event = *pass.batch[pass.next++];
@@ -78,7 +72,7 @@ void DeliverRest(lua_State* L, Pass& pass) {
     if (static_cast<std::uint32_t>(event.type) >= kEventTypes)
       tarn::log::LogError(tarn::velora::LogChannel, "Unknown velora event %d", event.type);
     else
-      kDeliver[event.type](L, pass, event);
+      kDeliver[event.type](L, *state, event);
   }
   lua_settop(L, 0);
 }

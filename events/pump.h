@@ -5,8 +5,8 @@
 
 namespace luavelora {
 
-// Runs one pass. When it gives a failure, the batch has been released and the caller is to raise it. Callbacks'
-// errors are logged, so is a finaliser's error that surfaces while arguments are built; neither ends the pass.
+// Runs one pass. On failure the batch has been released and the caller must raise the error. Errors of callbacks, and
+// of finalizers that run while arguments are built, are logged and do not end the pass.
 Outcome RunPass(lua_State* L);
 
 }  // namespace luavelora

@@ -2,7 +2,7 @@
 #include <lua.hpp>
 
 #include "binding/boundary.h"
-#include "binding/closing.h"
+#include "binding/ownership.h"
 #include "constants/constants.h"
 #include "download/download_table.h"
 #include "download/handler.h"
@@ -28,20 +28,20 @@ void SetSubTable(lua_State* L, const char* key, const luaL_Reg* functions) {
   lua_rawset(L, -3);
 }
 
-// After this, no object of the state answers and the download service calls it no more.
-void AtClose(lua_State* L, const StateRecord& state) {
+// Afterwards the state's objects are invalid and the download service no longer calls it.
+void AtClose(lua_State* L, const ModuleState& state) {
   if (downloadHandler.state() == state.mainState) downloadHandler.SetState(nullptr);
   UnregisterClasses(L);
 }
 
-// The module table stays on top from where it is made to the end. It is published as soon as its functions stand.
-Outcome Init(lua_State* L) {
-  WatchForClosing(L, AtClose);
-  GetSdkCallbackTable(L, kCallbackTable);  // made here: making it at the end could run a finaliser that raises
+// The module table stays on top from its creation to the end. It is published as soon as it has its functions.
+void Build(lua_State* L) {
+  OpenModuleState(L, AtClose);
+  GetSdkCallbackTable(L, kCallbackTable);  // created now, since doing so in Deinit could run a finalizer that raises
   lua_pop(L, 1);
   tarn::velora::LogChannel = tarn::log::RegisterChannel("VELORA");
-  lua_createtable(L, 0, 0);
-  luaL_setfuncs(L, kModuleFunctions, 0);
+  lua_createtable(L, 0, static_cast<int>(kModuleFunctions.size()) + kConstants);
+  luaL_setfuncs(L, kModuleFunctions.data(), 0);
   lua_pushvalue(L, -1);
   lua_setglobal(L, "velora");
   RegisterProductInfo(L);
@@ -55,10 +55,19 @@ Outcome Init(lua_State* L) {
   SetSubTable(L, "download", kDownloadFunctions);
   SetSubTable(L, "utils", kUtilsFunctions);
   lua_pop(L, 1);
-  return Outcome::Results(0);
 }
 
-// A slot that is empty already is left alone: storing nil under a new key would allocate.
+// Everything that Init creates stays, so the collector would only look at it again and again; it pauses.
+Outcome Init(lua_State* L) {
+  const bool running = lua_gc(L, LUA_GCISRUNNING, 0) != 0;
+  lua_gc(L, LUA_GCSTOP, 0);
+  auto build = [](lua_State* inner) { Build(inner); };
+  const int status = Protected(L, 0, build);
+  if (running) lua_gc(L, LUA_GCRESTART, 0);
+  return status == LUA_OK ? Outcome::Results(0) : Outcome::Rethrow();
+}
+
+// An empty slot is left alone: storing nil under a new key would allocate.
 Outcome Deinit(lua_State* L) {
   GetSdkCallbackTable(L, kCallbackTable);
   for (int slot = 0; slot < kEventTypes; ++slot) {
@@ -72,8 +81,7 @@ Outcome Deinit(lua_State* L) {
   return Outcome::Results(0);
 }
 
-// The host calls the entry points as plain functions: room on the stack is not given, and nothing may leave but a
-// Lua error.
+// The host calls the entry points as plain functions: stack space is not guaranteed, and only a Lua error may escape.
 void Run(lua_State* L, Outcome (*body)(lua_State*)) {
   luaL_checkstack(L, LUA_MINSTACK, nullptr);
   ErrorText text;

@@ -16,7 +16,6 @@ namespace {
 enum Row : std::int32_t {
 #define VELORA_CONSTANT(name, kind) kRowOf_##name,
 #include "platform/constants.def"
-#undef VELORA_CONSTANT
 };
 
 constexpr std::int32_t kFirstNumber = 1000;
@@ -47,15 +46,11 @@ Kind ValueOf(std::string_view name, std::int32_t row) {
 #define VELORA_CONSTANT(name, kind) \
   const ConstProp::kind ConstProp::name = ValueOf<ConstProp::kind>("velora." #name, kRowOf_##name);
 #include "platform/constants.def"
-#undef VELORA_CONSTANT
 
 #define VELORA_SHARE_CONSTANT(name) const std::string ShareInfo::name = Lower("velora.SHARE_" #name);
 #include "platform/share_constants.def"
-#undef VELORA_SHARE_CONSTANT
 
-const std::string QueryRankInfo::QUERY_RANK_TYPE_SCORE = Lower("velora.QUERY_RANK_TYPE_SCORE");
-const std::string QueryRankInfo::QUERY_RANK_TYPE_GRADE = Lower("velora.QUERY_RANK_TYPE_GRADE");
-const std::string QueryRankInfo::QUERY_RANK_SCOPE_ALL = Lower("velora.QUERY_RANK_SCOPE_ALL");
-const std::string QueryRankInfo::QUERY_RANK_SCOPE_FRIEND = Lower("velora.QUERY_RANK_SCOPE_FRIEND");
+#define VELORA_QUERY_RANK_CONSTANT(name) const std::string QueryRankInfo::name = Lower("velora." #name);
+#include "platform/query_rank_constants.def"
 
 }  // namespace tarn::velora

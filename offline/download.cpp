@@ -27,7 +27,7 @@ struct Own final : Layout, OwnEvent {
 template <class Kind, class... Values>
 std::shared_ptr<Event> MakeOwn(Values&&... values) {
   auto event = std::make_shared<Own<typename Kind::Layout>>(Kind::kType);
-  SetPayload(*event, std::forward<Values>(values)...);
+  SetPayload<typename Kind::Layout>(*event, std::forward<Values>(values)...);
   return event;
 }
 

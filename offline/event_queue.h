@@ -21,36 +21,22 @@ namespace events {
     using Layout = layout;                        \
   };
 #include "platform/events.def"
-#undef VELORA_EVENT
 }  // namespace events
 
-inline void SetPayload(PlainEvent&) {}
-inline void SetPayload(CodeEvent& event, std::int32_t code) { event.code = code; }
-inline void SetPayload(FlagEvent& event, bool flag) { event.flag = flag ? 1 : 0; }
-inline void SetPayload(TextEvent& event, std::string text) { event.text = std::move(text); }
-inline void SetPayload(TextListEvent& event, StringList texts) { event.texts = std::move(texts); }
-inline void SetPayload(OrderEvent& event, std::shared_ptr<OrderInfo> order) { event.order = std::move(order); }
-inline void SetPayload(AccountEvent& event, std::shared_ptr<AccountInfo> account) {
-  event.account = std::move(account);
+// Sets the first payload fields; those that are not given keep their defaults.
+template <class Layout, class... Values>
+void SetPayload(Layout& event, Values&&... values) {
+  [&]<std::size_t... i>(std::index_sequence<i...>) {
+    ((event.*std::get<i>(kPayload<Layout>) = std::forward<Values>(values)), ...);
+  }
+  (std::index_sequence_for<Values...>());
 }
-inline void SetPayload(AccountListEvent& event, std::vector<std::shared_ptr<AccountInfo>> accounts) {
-  event.accounts = std::move(accounts);
-}
-inline void SetPayload(SkuListEvent& event, std::vector<std::shared_ptr<SkuDetailsInfo>> skus) {
-  event.skus = std::move(skus);
-}
-inline void SetPayload(CodeTextEvent& event, std::int32_t code, std::string text) {
-  event.code = code;
-  event.text = std::move(text);
-}
-// Without data: the block pointer stays null.
-inline void SetPayload(TextBytesEvent& event, std::string text) { event.text = std::move(text); }
 
 // A new event of that kind, `MakeEvent<events::LoginDone>(0)`.
 template <class Kind, class... Values>
 std::shared_ptr<Event> MakeEvent(Values&&... values) {
   auto event = std::make_shared<typename Kind::Layout>(Kind::kType);
-  SetPayload(*event, std::forward<Values>(values)...);
+  SetPayload<typename Kind::Layout>(*event, std::forward<Values>(values)...);
   return event;
 }
 

@@ -13,7 +13,6 @@ bool toString(const ProductInfo& product, std::string& out) {
   offline::JsonObject object;
 #define VELORA_FIELD(name, family) object.AddUnlessDefault(#name, product.name);
 #include "platform/product_info.def"
-#undef VELORA_FIELD
   return offline::GiveText("ProductInfo.toString", name + " " + object.Text(), out);
 }
 

@@ -16,30 +16,10 @@
 #include "offline/control.h"
 #include "offline/field_value.h"
 #include "offline/json.h"
+#include "platform/field_families.h"
 #include "platform/types.h"
 
 namespace tarn::velora::offline {
-
-// The C++ type of a field of each accessor family.
-namespace families {
-using String = std::string;
-using Int = std::int32_t;
-using Int64 = std::int64_t;
-using Float = float;
-using Double = double;
-using IntAsNumber = std::int32_t;
-using Bool = bool;
-using StringMap = velora::StringMap;
-using IntMap = velora::IntMap;
-using StrictList = velora::StringList;
-using CachedList = velora::StringList;
-using CachedMap = velora::StringMap;
-using RecordMap = velora::StringMap;
-}  // namespace families
-
-// How a setter takes a value of that type.
-template <class Value>
-using Parameter = std::conditional_t<std::is_arithmetic_v<Value>, Value, const Value&>;
 
 class Record {
  public:
@@ -90,7 +70,7 @@ class Record {
   }
 
   template <class Value>
-  void Write(const char* operation, Value& field, Parameter<Value> value) {
+  void Write(const char* operation, Value& field, families::Parameter<Value> value) {
     RunHook(operation);
     Value fresh = value;
     std::lock_guard lock(mutex_);  // released before the old value is
@@ -148,27 +128,3 @@ std::shared_ptr<Derived> Produce(const char* operation, std::string madeWith) {
 }
 
 }  // namespace tarn::velora::offline
-
-// The getter of a field of each family, as record_fields.inc puts it into the class named RECORD_CLASS.
-#define READ_TEXT(name) \
-  bool get_##name(std::string& out) override { return ReadText(RECORD_CLASS ".get_" #name, name##_, out); }
-#define READ_NUMBER(name, family) \
-  families::family get_##name() override { return ReadNumber(RECORD_CLASS ".get_" #name, name##_); }
-#define READ_CONTAINER(name, family) \
-  void get_##name(families::family& out) override { out = ReadContainer(RECORD_CLASS ".get_" #name, name##_); }
-#define READ_RECORD_MAP(name) \
-  bool get_##name(velora::StringMap& out) override { return ReadMap(RECORD_CLASS ".get_" #name, name##_, out); }
-
-#define GETTER_String(name) READ_TEXT(name)
-#define GETTER_Int(name) READ_NUMBER(name, Int)
-#define GETTER_Int64(name) READ_NUMBER(name, Int64)
-#define GETTER_Float(name) READ_NUMBER(name, Float)
-#define GETTER_Double(name) READ_NUMBER(name, Double)
-#define GETTER_IntAsNumber(name) READ_NUMBER(name, IntAsNumber)
-#define GETTER_Bool(name) READ_NUMBER(name, Bool)
-#define GETTER_StringMap(name) READ_CONTAINER(name, StringMap)
-#define GETTER_IntMap(name) READ_CONTAINER(name, IntMap)
-#define GETTER_StrictList(name) READ_CONTAINER(name, StrictList)
-#define GETTER_CachedList(name) READ_CONTAINER(name, CachedList)
-#define GETTER_CachedMap(name) READ_CONTAINER(name, CachedMap)
-#define GETTER_RecordMap(name) READ_RECORD_MAP(name)

@@ -16,7 +16,6 @@ class ConstProp {
 
 #define VELORA_CONSTANT(name, kind) static VELORA_SDK_DATA const kind name;
 #include "platform/constants.def"
-#undef VELORA_CONSTANT
 };
 
 }  // namespace tarn::velora

@@ -1,12 +1,14 @@
 // The events that the SDK queues, exactly as its 64-bit build lays them out: the header (a virtual table pointer,
 // the type at byte 8), then one of 17 payloads from byte 16 on. The module reads fields only and calls no virtual
-// operation. Reserved and alignas fields give the same layout on every compiler.
+// operation. Reserved and alignas fields give the same layout on every compiler. kPayload lists a layout's fields in
+// the order in which a callback receives them.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "platform/import.h"
@@ -34,6 +36,9 @@ struct ByteBlock {
   std::uint64_t size;
 };
 
+template <class Layout>
+inline constexpr std::tuple<> kPayload{};
+
 struct VELORA_SDK_TYPE PlainEvent : Event {
   using Event::Event;
 };
@@ -42,39 +47,53 @@ struct VELORA_SDK_TYPE CodeEvent : Event {
   using Event::Event;
   std::int32_t code = 0;
 };
+template <>
+inline constexpr std::tuple kPayload<CodeEvent>{&CodeEvent::code};
 
 struct VELORA_SDK_TYPE CodeTextEvent : Event {
   using Event::Event;
   std::int32_t code = 0;
   std::string text;
 };
+template <>
+inline constexpr std::tuple kPayload<CodeTextEvent>{&CodeTextEvent::code, &CodeTextEvent::text};
 
 struct VELORA_SDK_TYPE FlagEvent : Event {
   using Event::Event;
   std::uint8_t flag = 0;  // any value but 0 is true
 };
+template <>
+inline constexpr std::tuple kPayload<FlagEvent>{&FlagEvent::flag};
 
 struct VELORA_SDK_TYPE TextEvent : Event {
   using Event::Event;
   std::string text;
 };
+template <>
+inline constexpr std::tuple kPayload<TextEvent>{&TextEvent::text};
 
 struct VELORA_SDK_TYPE TextPairEvent : Event {
   using Event::Event;
   std::string first;
   std::string second;
 };
+template <>
+inline constexpr std::tuple kPayload<TextPairEvent>{&TextPairEvent::first, &TextPairEvent::second};
 
 struct VELORA_SDK_TYPE TextListEvent : Event {
   using Event::Event;
   StringList texts;
 };
+template <>
+inline constexpr std::tuple kPayload<TextListEvent>{&TextListEvent::texts};
 
 struct VELORA_SDK_TYPE PadKeyEvent : Event {
   using Event::Event;
   std::int32_t keyCode = 0;
   std::shared_ptr<PadRecord> pad;
 };
+template <>
+inline constexpr std::tuple kPayload<PadKeyEvent>{&PadKeyEvent::keyCode, &PadKeyEvent::pad};
 
 struct VELORA_SDK_TYPE PadPressureEvent : Event {
   using Event::Event;
@@ -82,6 +101,9 @@ struct VELORA_SDK_TYPE PadPressureEvent : Event {
   alignas(8) float pressure = 0;
   std::shared_ptr<PadRecord> pad;
 };
+template <>
+inline constexpr std::tuple kPayload<PadPressureEvent>{&PadPressureEvent::keyCode, &PadPressureEvent::pressure,
+                                                       &PadPressureEvent::pad};
 
 struct VELORA_SDK_TYPE PadStickEvent : Event {
   using Event::Event;
@@ -89,42 +111,58 @@ struct VELORA_SDK_TYPE PadStickEvent : Event {
   alignas(8) float y = 0;
   std::shared_ptr<PadRecord> pad;
 };
+template <>
+inline constexpr std::tuple kPayload<PadStickEvent>{&PadStickEvent::x, &PadStickEvent::y, &PadStickEvent::pad};
 
 struct VELORA_SDK_TYPE PadStateEvent : Event {
   using Event::Event;
   std::shared_ptr<PadRecord> pad;
 };
+template <>
+inline constexpr std::tuple kPayload<PadStateEvent>{&PadStateEvent::pad};
 
 struct VELORA_SDK_TYPE OrderEvent : Event {
   using Event::Event;
   std::shared_ptr<OrderInfo> order;
 };
+template <>
+inline constexpr std::tuple kPayload<OrderEvent>{&OrderEvent::order};
 
 struct VELORA_SDK_TYPE AccountEvent : Event {
   using Event::Event;
   std::shared_ptr<AccountInfo> account;
 };
+template <>
+inline constexpr std::tuple kPayload<AccountEvent>{&AccountEvent::account};
 
 struct VELORA_SDK_TYPE AccountListEvent : Event {
   using Event::Event;
   std::vector<std::shared_ptr<AccountInfo>> accounts;
 };
+template <>
+inline constexpr std::tuple kPayload<AccountListEvent>{&AccountListEvent::accounts};
 
 struct VELORA_SDK_TYPE SkuListEvent : Event {
   using Event::Event;
   std::vector<std::shared_ptr<SkuDetailsInfo>> skus;
 };
+template <>
+inline constexpr std::tuple kPayload<SkuListEvent>{&SkuListEvent::skus};
 
 struct VELORA_SDK_TYPE BytesEvent : Event {
   using Event::Event;
   const ByteBlock* bytes = nullptr;
 };
+template <>
+inline constexpr std::tuple kPayload<BytesEvent>{&BytesEvent::bytes};
 
 struct VELORA_SDK_TYPE TextBytesEvent : Event {
   using Event::Event;
   std::string text;
   const ByteBlock* bytes = nullptr;
 };
+template <>
+inline constexpr std::tuple kPayload<TextBytesEvent>{&TextBytesEvent::text, &TextBytesEvent::bytes};
 
 #if defined(__GNUC__)
 #pragma GCC diagnostic push

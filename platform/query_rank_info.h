@@ -16,10 +16,8 @@ class VELORA_SDK_TYPE QueryRankInfo {
   static VELORA_SDK_API std::shared_ptr<QueryRankInfo> New();
   static VELORA_SDK_API std::shared_ptr<QueryRankInfo> New(const std::string& text);
 
-  static VELORA_SDK_DATA const std::string QUERY_RANK_TYPE_SCORE;
-  static VELORA_SDK_DATA const std::string QUERY_RANK_TYPE_GRADE;
-  static VELORA_SDK_DATA const std::string QUERY_RANK_SCOPE_ALL;
-  static VELORA_SDK_DATA const std::string QUERY_RANK_SCOPE_FRIEND;
+#define VELORA_QUERY_RANK_CONSTANT(name) static VELORA_SDK_DATA const std::string name;
+#include "platform/query_rank_constants.def"
 
   virtual void reserved() {}
   virtual bool get_type(std::string& out) = 0;

@@ -19,7 +19,6 @@ class VELORA_SDK_TYPE ShareInfo {
 
 #define VELORA_SHARE_CONSTANT(name) static VELORA_SDK_DATA const std::string name;
 #include "platform/share_constants.def"
-#undef VELORA_SHARE_CONSTANT
 
   virtual void reserved() {}
   virtual void get_aLinkParams(StringMap& out) = 0;

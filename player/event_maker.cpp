@@ -12,6 +12,7 @@
 
 #include "offline/control.h"
 #include "platform/binding_helpers.h"
+#include "platform/record_classes.h"
 #include "player/arguments.h"
 #include "records/holder.h"
 
@@ -32,8 +33,8 @@ struct Value {
   throw ArgumentError(value.argument, value.part.empty() ? text : value.part + ": " + text);
 }
 
-[[noreturn]] void FailType(const Value& value, const char* expected) {
-  Fail(value, Mismatch(value.L, value.index, expected));
+[[noreturn]] void FailType(const Value& value, const std::string& expected) {
+  Fail(value, Mismatch(value.L, value.index, expected.c_str()));
 }
 
 // The value on top of the stack, which belongs to `whole`.
@@ -150,44 +151,24 @@ offline::FieldValue ReadFieldValue(const Value& value) {
   return map;
 }
 
-// What a script knows of a record class, and how the runtime makes one.
+// How the runtime makes a record from its fields.
 template <class Record>
-struct RecordClass;
-
+constexpr std::shared_ptr<Record> (*kMake)(const offline::Fields&) = nullptr;
 template <>
-struct RecordClass<OrderInfo> {
-  static constexpr const char* kExpected = "OrderInfo, table of its fields or nil";
-  static constexpr const char* kMetatable = "LuaOrderInfo";
-  static constexpr auto kMake = &offline::MakeOrder;
-};
-
+constexpr auto kMake<OrderInfo> = &offline::MakeOrder;
 template <>
-struct RecordClass<AccountInfo> {
-  static constexpr const char* kExpected = "AccountInfo, table of its fields or nil";
-  static constexpr const char* kMetatable = "LuaAccountInfo";
-  static constexpr auto kMake = &offline::MakeAccount;
-};
-
+constexpr auto kMake<AccountInfo> = &offline::MakeAccount;
 template <>
-struct RecordClass<SkuDetailsInfo> {
-  static constexpr const char* kExpected = "SkuDetailsInfo, table of its fields or nil";
-  static constexpr const char* kMetatable = "LuaSkuDetailsInfo";
-  static constexpr auto kMake = &offline::MakeSku;
-};
-
+constexpr auto kMake<SkuDetailsInfo> = &offline::MakeSku;
 template <>
-struct RecordClass<PadRecord> {
-  static constexpr const char* kExpected = "PadEvent, table of its fields or nil";
-  static constexpr const char* kMetatable = "LuaPadEvent";
-  static constexpr auto kMake = &offline::MakePad;
-};
+constexpr auto kMake<PadRecord> = &offline::MakePad;
 
 template <class Record>
 std::shared_ptr<Record> MakeRecord(const Value& table) {
   offline::Fields fields;
   ForEachPair(table, [&](const std::string& name, const Value& value) { fields.emplace(name, ReadFieldValue(value)); });
   try {
-    return RecordClass<Record>::kMake(fields);
+    return kMake<Record>(fields);
   } catch (const std::invalid_argument& error) {
     Fail(table, error.what());
   }
@@ -201,12 +182,12 @@ void Read(const Value& value, std::shared_ptr<Record>& field) {
     field.reset();
   } else if (TypeOf(value) == LUA_TTABLE) {
     field = MakeRecord<Record>(value);
-  } else if (CheckMetaTableInUserType(value.L, value.index, RecordClass<Record>::kMetatable)) {
-    const auto* holder = luavelora::HolderAt<luavelora::SharedRecordHolder<Record>>(value.L, value.index);
+  } else if (CheckMetaTableInUserType(value.L, value.index, ClassNames<Record>::kMetatable)) {
+    const auto* holder = luavelora::HolderIn<Record>(lua_touserdata(value.L, value.index));
     if (holder == nullptr) Fail(value, "the object is finished: its __gc was called");
-    field = *holder->record;
+    field = holder->record;
   } else {
-    FailType(value, RecordClass<Record>::kExpected);
+    FailType(value, ClassNames<Record>::kName + std::string(", table of its fields or nil"));
   }
 }
 
@@ -215,9 +196,10 @@ class Payload {
  public:
   Payload(lua_State* L, int first) : L_(L), next_(first) {}
 
-  template <class... Field>
-  void Read(Field&... fields) {
-    (ReadOne(fields), ...);
+  template <class Field>
+  void Read(Field& field) {
+    if (!lua_isnoneornil(L_, next_)) player::Read(Value{L_, next_, next_}, field);
+    ++next_;
   }
 
   // A value too many is a mistake in the script.
@@ -226,60 +208,36 @@ class Payload {
   }
 
  private:
-  template <class Field>
-  void ReadOne(Field& field) {
-    if (!lua_isnoneornil(L_, next_)) player::Read(Value{L_, next_, next_}, field);
-    ++next_;
-  }
-
   lua_State* L_;
   int next_;
 };
 
-// A layout that points to bytes, together with the bytes. The pointer stays null where none are given.
+// An event together with the bytes that it points to.
 template <class Layout>
-struct WithBytes : Layout {
+struct EventWithBytes : Layout {
   using Layout::Layout;
-
-  void Point() {
-    if (!storage) return;
-    block = {reinterpret_cast<const unsigned char*>(storage->data()), storage->size()};
-    this->bytes = &block;
-  }
-
   std::optional<std::string> storage;
   ByteBlock block{};
 };
 
-void Fill(PlainEvent&, Payload&) {}
-void Fill(CodeEvent& event, Payload& payload) { payload.Read(event.code); }
-void Fill(CodeTextEvent& event, Payload& payload) { payload.Read(event.code, event.text); }
-void Fill(FlagEvent& event, Payload& payload) { payload.Read(event.flag); }
-void Fill(TextEvent& event, Payload& payload) { payload.Read(event.text); }
-void Fill(TextPairEvent& event, Payload& payload) { payload.Read(event.first, event.second); }
-void Fill(TextListEvent& event, Payload& payload) { payload.Read(event.texts); }
-void Fill(PadKeyEvent& event, Payload& payload) { payload.Read(event.keyCode, event.pad); }
-void Fill(PadPressureEvent& event, Payload& payload) { payload.Read(event.keyCode, event.pressure, event.pad); }
-void Fill(PadStickEvent& event, Payload& payload) { payload.Read(event.x, event.y, event.pad); }
-void Fill(PadStateEvent& event, Payload& payload) { payload.Read(event.pad); }
-void Fill(OrderEvent& event, Payload& payload) { payload.Read(event.order); }
-void Fill(AccountEvent& event, Payload& payload) { payload.Read(event.account); }
-void Fill(AccountListEvent& event, Payload& payload) { payload.Read(event.accounts); }
-void Fill(SkuListEvent& event, Payload& payload) { payload.Read(event.skus); }
-void Fill(WithBytes<BytesEvent>& event, Payload& payload) {
-  payload.Read(event.storage);
-  event.Point();
+template <class Layout, class Field>
+void Fill(EventWithBytes<Layout>&, Payload& payload, Field& field) {
+  payload.Read(field);
 }
-void Fill(WithBytes<TextBytesEvent>& event, Payload& payload) {
-  payload.Read(event.text, event.storage);
-  event.Point();
+
+// The pointer stays null if no bytes are given.
+template <class Layout>
+void Fill(EventWithBytes<Layout>& event, Payload& payload, const ByteBlock*& field) {
+  payload.Read(event.storage);
+  if (!event.storage) return;
+  event.block = {reinterpret_cast<const unsigned char*>(event.storage->data()), event.storage->size()};
+  field = &event.block;
 }
 
 template <class Layout>
 std::shared_ptr<Event> Make(std::int32_t type, Payload& payload) {
-  constexpr bool hasBytes = std::is_same_v<Layout, BytesEvent> || std::is_same_v<Layout, TextBytesEvent>;
-  auto event = std::make_shared<std::conditional_t<hasBytes, WithBytes<Layout>, Layout>>(type);
-  Fill(*event, payload);
+  auto event = std::make_shared<EventWithBytes<Layout>>(type);
+  std::apply([&](auto... field) { (Fill(*event, payload, (*event).*field), ...); }, kPayload<Layout>);
   return event;
 }
 
@@ -292,7 +250,6 @@ struct EventRow {
 constexpr EventRow kEvents[] = {
 #define VELORA_EVENT(number, name, layout) {number, #name, Make<layout>},
 #include "platform/events.def"
-#undef VELORA_EVENT
 };
 
 // The row of an event by name, where the argument is a string, or of the event of that type.

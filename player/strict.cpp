@@ -156,16 +156,9 @@ constexpr Rule kWithoutSdk[] = {
     {"ProductInfo.get_", TakesObject},
     {"ProductInfo.set_", TakesObject},
 // A share request's containers are cached in the object.
-#define CACHED(name) {"ShareInfo.get_" #name, TakesObject}, {"ShareInfo.set_" #name, TakesObject},
-#define FIELD_CachedMap CACHED
-#define FIELD_CachedList CACHED
-#define FIELD_RecordMap(name)
-#define FIELD_String(name)
-#define FIELD_Int(name)
-#define FIELD_Bool(name)
-#define VELORA_FIELD(name, Family) FIELD_##Family(name)
+#define VELORA_CACHED_FIELD(name, Family, label) \
+  {"ShareInfo.get_" #name, TakesObject}, {"ShareInfo.set_" #name, TakesObject},
 #include "platform/share_info.def"
-#undef VELORA_FIELD
 };
 
 // Null for a function that reaches the SDK when it is accepted.

@@ -1,24 +1,30 @@
-// What all classes have in common at the end of a Lua state.
+// What happens to the classes when a state closes.
 #include "records/classes.h"
 
-#include "records/convention.h"
+#include "binding/helpers/metatables.h"
+#include "records/self.h"
 
 namespace luavelora {
 namespace {
 
-template <class... Records>
+// Its objects are a wrong self from now on, and no new ones are made.
+template <class Record>
 void Unregister(lua_State* L) {
-  for (const char* name : {ClassOf<Records>::kMetatable...}) {
+  if (lua_rawgetp(L, LUA_REGISTRYINDEX, &kClassKey<Record>) == LUA_TTABLE) {
     lua_pushnil(L);
-    lua_setfield(L, LUA_REGISTRYINDEX, name);
+    lua_rawsetp(L, -2, &kClassKey<Record>);
+    lua_pushnil(L);
+    lua_rawsetp(L, LUA_REGISTRYINDEX, &kClassKey<Record>);
   }
+  lua_pop(L, 1);
+  RemoveUserTypeMetaTable(L, tarn::velora::ClassNames<Record>::kMetatable);
 }
 
 }  // namespace
 
 void UnregisterClasses(lua_State* L) {
-  using namespace tarn::velora;
-  Unregister<ProductInfo, OrderInfo, QueryRankInfo, ShareInfo, AccountInfo, SkuDetailsInfo, PadRecord>(L);
+#define VELORA_CLASS(Record, luaName) Unregister<tarn::velora::Record>(L);
+#include "platform/records.def"
 }
 
 }  // namespace luavelora

@@ -13,7 +13,7 @@ void RegisterShareInfo(lua_State* L);
 void RegisterAccountInfo(lua_State* L);
 void RegisterSkuDetailsInfo(lua_State* L);
 
-// Makes every object of every class, controller events included, a wrong self; for a state that closes.
+// Makes every object of every class, controller events included, a wrong self. Called when the state closes.
 void UnregisterClasses(lua_State* L);
 
 }  // namespace luavelora

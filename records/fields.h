@@ -1,48 +1,80 @@
-// The accessor families of the records that are reached through virtual operations. A family is a struct with a
-// getter and a setter template over the record's operation; a field is then one row.
+// The accessor families. A family is a struct with a getter and a setter template over what it reads and writes: the
+// record's virtual operation or, of a plain record, its data member. A field is then one row.
 #pragma once
 
+#include <memory>
 #include <type_traits>
 
-#include "records/convention.h"
+#include "records/class.h"
 
 namespace luavelora {
 
-template <class Operation>
-struct RecordOfOperation;
-template <class Record, class Result, class... Parameters>
-struct RecordOfOperation<Result (Record::*)(Parameters...)> {
-  using Type = Record;
+template <class Member>
+struct MemberOf;
+template <class Record, class Type>
+struct MemberOf<Type Record::*> {
+  using Class = Record;
 };
 
-// The record whose virtual operation `operation` is.
-template <auto operation>
-using RecordOf = typename RecordOfOperation<decltype(operation)>::Type;
+// The record, or holder, whose member `member` points to.
+template <auto member>
+using ClassOfMember = typename MemberOf<decltype(member)>::Class;
 
-// Calls `operation` on the holder's record, which cannot go away meanwhile.
+// Calls `operation` on the holder's record and keeps it alive during the call.
 template <auto operation, class... Arguments>
-auto CallOnRecord(HolderOf<RecordOf<operation>>& holder, Arguments&&... arguments) {
+auto CallOnRecord(HolderOf<ClassOfMember<operation>>& holder, Arguments&&... arguments) {
   const Pin pin(holder);
-  return ((**holder.record).*operation)(std::forward<Arguments>(arguments)...);
+  return ((*holder.record).*operation)(std::forward<Arguments>(arguments)...);
+}
+
+// Reads a field that has a value for every record.
+template <auto field>
+auto Load(HolderOf<ClassOfMember<field>>& holder) {
+  if constexpr (std::is_member_object_pointer_v<decltype(field)>)
+    return holder.record.*field;
+  else
+    return CallOnRecord<field>(holder);
+}
+
+// Fills `out` and returns whether there is a value.
+template <auto field, class Out>
+bool Load(HolderOf<ClassOfMember<field>>& holder, Out& out) {
+  if constexpr (std::is_member_object_pointer_v<decltype(field)>) {
+    out = holder.record.*field;
+    return true;
+  } else if constexpr (std::is_void_v<decltype(CallOnRecord<field>(holder, out))>) {
+    CallOnRecord<field>(holder, out);
+    return true;
+  } else {
+    return CallOnRecord<field>(holder, out);
+  }
+}
+
+template <auto field, class Value>
+void Store(HolderOf<ClassOfMember<field>>& holder, const Value& value) {
+  if constexpr (std::is_member_object_pointer_v<decltype(field)>)
+    holder.record.*field = value;
+  else
+    CallOnRecord<field>(holder, value);
 }
 
 namespace family {
 
-// A number or boolean: `push` gives it to Lua, `read` takes argument 2, 0 or false where there is none.
+// A number or boolean: `push` pushes it, `read` reads argument 2, 0 or false for any other type.
 template <auto push, auto read>
 struct Scalar {
-  template <auto get>
+  template <auto field>
   static Outcome Get(lua_State* L) {
-    auto* holder = Self<RecordOf<get>>(L);
+    auto* holder = Self<ClassOfMember<field>>(L);
     if (holder == nullptr) return Refusal();
-    push(L, CallOnRecord<get>(*holder));
+    push(L, Load<field>(*holder));
     return Outcome::Results(1);
   }
 
-  template <auto set>
+  template <auto field>
   static Outcome Set(lua_State* L) {
-    auto* holder = Self<RecordOf<set>>(L);
-    if (holder != nullptr) CallOnRecord<set>(*holder, read(L, 2));
+    auto* holder = Self<ClassOfMember<field>>(L);
+    if (holder != nullptr) Store<field>(*holder, read(L, 2));
     return Outcome::Results(0);
   }
 };
@@ -64,92 +96,116 @@ using IntAsNumber = Scalar<PushNumber, ReadInt>;
 using Bool = Scalar<PushBoolean, ReadBool>;
 
 struct String {
-  template <auto get>
+  template <auto field>
   static Outcome Get(lua_State* L) {
-    auto* holder = Self<RecordOf<get>>(L);
+    auto* holder = Self<ClassOfMember<field>>(L);
     if (holder == nullptr) return Refusal();
-    return TextResult(L, [holder](std::string& out) { return CallOnRecord<get>(*holder, out); });
+    return TextResult(L, [holder](std::string& out) { return Load<field>(*holder, out); });
   }
 
-  // A value without text stores the empty string.
-  template <auto set>
+  // Stores the empty string for a value that is neither a string nor a number.
+  template <auto field>
   static Outcome Set(lua_State* L) {
-    const char* text = TextArgument(L, 2);  // may run script code, which may finish the object: so it comes first
-    auto* holder = Self<RecordOf<set>>(L);
-    if (holder != nullptr) CallOnRecord<set>(*holder, std::string(text == nullptr ? "" : text));
+    const char* text = TextArgument(L, 2);  // first: it may run script code, which may finalize the object
+    auto* holder = Self<ClassOfMember<field>>(L);
+    if (holder != nullptr) Store<field>(*holder, std::string(text == nullptr ? "" : text));
     return Outcome::Results(0);
   }
 };
 
-// A map that the record fills on request: no result where it reports failure or the map is empty.
-template <class Map, void (*push)(lua_State*, const Map&)>
+// A map that the record fills on request. There is no result if the record reports failure or the map is empty.
+template <class Map>
 struct FilledMap {
-  template <auto get>
+  template <auto field>
   static Outcome Get(lua_State* L) {
-    auto* holder = Self<RecordOf<get>>(L);
+    auto* holder = Self<ClassOfMember<field>>(L);
     if (holder == nullptr) return Refusal();
     Map map;
-    bool filled = true;
-    if constexpr (std::is_void_v<decltype(CallOnRecord<get>(*holder, map))>)
-      CallOnRecord<get>(*holder, map);
-    else
-      filled = CallOnRecord<get>(*holder, map);
-    if (!filled || map.empty()) return Outcome::Results(0);
-    return PushProtected(L, [&map](lua_State* state) { push(state, map); });
+    if (!Load<field>(*holder, map) || map.empty()) return Outcome::Results(0);
+    return PushProtected(L, [&map](lua_State* state) { PushContainer(state, map); });
   }
 };
 
-using StringMap = FilledMap<tarn::velora::StringMap, PushStringMap>;
-using IntMap = FilledMap<tarn::velora::IntMap, PushIntMap>;
+using StringMap = FilledMap<tarn::velora::StringMap>;
+using IntMap = FilledMap<tarn::velora::IntMap>;
 
-// A list of which every element must have a text; anything but a table is refused.
+// The same with a setter, which raises an error for anything but a table.
+struct RecordMap : StringMap {
+  template <auto field>
+  static Outcome Set(lua_State* L) {
+    auto* holder = Self<ClassOfMember<field>>(L);
+    if (holder == nullptr) return Refusal();
+    if (!lua_istable(L, 2)) return Outcome::Error("ptrHashMapmust be table");
+    Store<field>(*holder, ReadMap<tarn::velora::StringMap>(L, 2));
+    return Outcome::Results(0);
+  }
+};
+
+// A list whose elements must all be strings or numbers; anything but a table is refused.
 struct StrictList {
-  template <auto get>
+  template <auto field>
   static Outcome Get(lua_State* L) {
-    auto* holder = Self<RecordOf<get>>(L);
+    auto* holder = Self<ClassOfMember<field>>(L);
     if (holder == nullptr) return Refusal();
     tarn::velora::StringList list;
-    CallOnRecord<get>(*holder, list);
-    return PushProtected(L, [&list](lua_State* state) { PushStringList(state, list); });
+    Load<field>(*holder, list);
+    return PushProtected(L, [&list](lua_State* state) { PushContainer(state, list); });
   }
 
-  template <auto set>
+  template <auto field>
   static Outcome Set(lua_State* L) {
-    auto* holder = Self<RecordOf<set>>(L);
+    auto* holder = Self<ClassOfMember<field>>(L);
     if (holder == nullptr || !lua_istable(L, 2)) return Refusal();
     tarn::velora::StringList list;
     if (const char* error = ReadStrictStringList(L, 2, list, "localeId need string list")) return Outcome::Error(error);
-    CallOnRecord<set>(*holder, list);
+    Store<field>(*holder, list);
     return Outcome::Results(0);
   }
 };
 
 }  // namespace family
 
-// The rows of a field's accessors in a class table.
-#define VELORA_GETTER(Record, name, Family) \
-  { "get_" #name, Entry<family::Family::Get<&tarn::velora::Record::get_##name>> }
-#define VELORA_SETTER(Record, name, Family) \
-  { "set_" #name, Entry<family::Family::Set<&tarn::velora::Record::set_##name>> }
+// A string that can be a template argument.
+template <std::size_t size>
+struct Literal {
+  constexpr Literal(const char (&source)[size]) {
+    for (std::size_t i = 0; i < size; ++i) text[i] = source[i];
+  }
+  char text[size];
+};
 
-// Accessors of a holder's cache. The getter holds on to the container while `push` makes a table of it, whatever script
-// code runs meanwhile; the setter raises `error` for anything but a table and keeps the old content.
-template <class Record, auto cache, auto push>
+// Accessors of a map or list that the holder caches. The getter keeps the content while it makes a table of it,
+// whatever script code runs; the setter raises `error` for anything but a table and then keeps the old content.
+template <class Record, auto cache>
 Outcome GetCache(lua_State* L) {
   const auto* holder = Self<Record>(L);
   if (holder == nullptr) return Refusal();
   const auto content = holder->*cache;
-  return PushProtected(L, [&content](lua_State* state) { push(state, *content); });
+  return PushProtected(L, [&content](lua_State* state) { PushContainer(state, *content); });
 }
 
-template <class Record, auto cache, auto read, const char* error>
-Outcome SetCachedMap(lua_State* L) {
+template <class Record, auto cache, Literal error>
+Outcome SetCache(lua_State* L) {
+  using Content = std::remove_cvref_t<decltype(*(std::declval<HolderOf<Record>>().*cache))>;
   auto* holder = Self<Record>(L);
   if (holder == nullptr) return Refusal();
-  if (!lua_istable(L, 2)) return Outcome::Error(error);
-  auto map = read(L, 2);
-  holder->*cache = std::make_shared<const decltype(map)>(std::move(map));
+  if (!lua_istable(L, 2)) return Outcome::Error(error.text);
+  if constexpr (std::is_same_v<Content, tarn::velora::StringList>) {
+    std::int32_t length = 0;
+    if (const char* tooLong = ClaimedLength(L, 2, length)) return Outcome::Error(tooLong);
+    holder = Self<Record>(L);  // asking for the length may have run script code, which may have finalized the object
+    if (holder != nullptr) holder->*cache = std::make_shared<const Content>(ReadStringList(L, 2, length));
+  } else {
+    holder->*cache = std::make_shared<const Content>(ReadMap<Content>(L, 2));
+  }
   return Outcome::Results(0);
 }
+
+// The rows of a field's accessors in a class table.
+#define VELORA_GETTER(Record, name, Family) Row<family::Family::Get<&Record::get_##name>>("get_" #name)
+#define VELORA_SETTER(Record, name, Family) Row<family::Family::Set<&Record::set_##name>>("set_" #name)
+#define VELORA_CACHE_ACCESSORS(Record, name, label)             \
+  Row<GetCache<Record, &HolderOf<Record>::name>>("get_" #name), \
+      Row<SetCache<Record, &HolderOf<Record>::name, "self->" label "must be table">>("set_" #name)
 
 }  // namespace luavelora

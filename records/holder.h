@@ -3,74 +3,65 @@
 
 #include <memory>
 
-#include "binding/closing.h"
-#include "platform/binding_helpers.h"
+#include "binding/ownership.h"
+#include "platform/field_families.h"
 #include "platform/product_info.h"
 #include "platform/share_info.h"
 
 namespace luavelora {
 
-// Deletes a holder of type `HolderType` through its base.
-template <class HolderType>
-void DestroyAs(Owned& holder) {
-  delete static_cast<HolderType*>(&holder);
-}
-
-// Owns a holder that no userdata carries yet.
-struct ReleaseHolder {
-  void operator()(Owned* holder) const { holder->Release(); }
-};
-using FreshHolder = std::unique_ptr<Owned, ReleaseHolder>;
-
 // One owner of a record that the SDK may own too.
 template <class Record>
 struct SharedRecordHolder : Owned {
-  explicit SharedRecordHolder(const std::shared_ptr<Record>& reference,
-                              void (*destroy)(Owned&) = DestroyAs<SharedRecordHolder>)
-      : Owned(destroy), record(std::make_unique<std::shared_ptr<Record>>(reference)) {}
+  explicit SharedRecordHolder(const std::shared_ptr<Record>& reference) : record(reference) {}
 
-  std::unique_ptr<std::shared_ptr<Record>> record;
+  std::shared_ptr<Record> record;
 };
 
-// A map or list that a setter replaces as a whole, never changes in place: whoever reads one holds on to it meanwhile.
+// A map or list that a setter replaces as a whole and never changes in place, so that whoever reads it can keep it.
 template <class Container>
 using Cache = std::shared_ptr<const Container>;
 
-// A share request with its cached fields, in the order in which flush writes them.
+// A share request with its cached fields, which the constructor reads from the record.
 struct ShareInfoHolder : SharedRecordHolder<tarn::velora::ShareInfo> {
-  explicit ShareInfoHolder(const std::shared_ptr<tarn::velora::ShareInfo>& reference)
-      : SharedRecordHolder(reference, DestroyAs<ShareInfoHolder>) {}
-  ~ShareInfoHolder() { record.reset(); }  // the record goes first
+  explicit ShareInfoHolder(const std::shared_ptr<tarn::velora::ShareInfo>& reference);
 
-  Cache<tarn::velora::StringMap> aLinkParams;
-  Cache<tarn::velora::StringMap> altTextMsg;
-  Cache<tarn::velora::StringMap> iLinkParams;
-  Cache<tarn::velora::StringMap> linkParams;
-  Cache<tarn::velora::StringMap> linkTextMsg;
-  Cache<tarn::velora::StringMap> subTextMsg;
-  Cache<tarn::velora::StringMap> textMsg;
-  Cache<tarn::velora::StringList> toUserList;
+#define VELORA_CACHED_FIELD(name, family, label) Cache<tarn::velora::families::family> name;
+#include "platform/share_info.def"
 };
 
-// A private copy of a product, and the side maps of its three map fields.
+// A private copy of a product, and its cached fields.
 struct ProductInfoHolder : Owned {
-  ProductInfoHolder() : Owned(DestroyAs<ProductInfoHolder>) {}
-  ~ProductInfoHolder() {  // the record goes first, then the maps in their order
-    record.reset();
-    m_sdk_pids.reset();
-    m_channel_goodsTypes.reset();
-  }
+  explicit ProductInfoHolder(const tarn::velora::ProductInfo& source);
 
-  std::unique_ptr<tarn::velora::ProductInfo> record;
-  Cache<tarn::velora::StringMap> m_sdk_pids;
-  Cache<tarn::velora::IntMap> m_channel_goodsTypes;
-  Cache<tarn::velora::IntMap> m_jell_ratios;
+  tarn::velora::ProductInfo record;
+
+#define VELORA_CACHED_FIELD(name, family, label) Cache<tarn::velora::families::family> name;
+#include "platform/product_info.def"
 };
 
-// The holder of the userdata at `index`, whose class must just have been tested; null once `__gc` has run.
-template <class HolderType>
-HolderType* HolderAt(lua_State* L, int index) {
-  return static_cast<HolderType*>(static_cast<Owned*>(FromUserType(L, index)));
+// The holder of each class's userdata.
+template <class Record>
+struct HolderType {
+  using Type = SharedRecordHolder<Record>;
+};
+template <>
+struct HolderType<tarn::velora::ShareInfo> {
+  using Type = ShareInfoHolder;
+};
+template <>
+struct HolderType<tarn::velora::ProductInfo> {
+  using Type = ProductInfoHolder;
+};
+
+template <class Record>
+using HolderOf = typename HolderType<Record>::Type;
+
+// The holder that a userdata's block points to, or null if the object was finalized. The block is that of a userdata
+// whose class has been tested.
+template <class Record>
+HolderOf<Record>* HolderIn(const void* block) {
+  return static_cast<HolderOf<Record>*>(*static_cast<Owned* const*>(block));
 }
 
 }  // namespace luavelora

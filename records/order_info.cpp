@@ -1,6 +1,4 @@
-// `OrderInfo`: a payment order, and through the same class table the SDK's product registry.
-#include "platform/order_info.h"
-
+// `OrderInfo`: a payment order and, through the same class table, the SDK's product registry.
 #include "binding/set_constant.h"
 #include "records/classes.h"
 #include "records/fields.h"
@@ -12,43 +10,44 @@ namespace {
 using tarn::velora::OrderInfo;
 using tarn::velora::ProductInfo;
 
-constexpr const char* kNeedsProductId = "velora.OrderInfo must be init with productId of type str!";
-
 Outcome New(lua_State* L) {
   const char* productId = TextArgument(L, 1);
-  if (productId == nullptr) return Outcome::Error(kNeedsProductId);
-  return GiveRecord(L, OrderInfo::New(productId));
+  if (productId == nullptr) return Outcome::Error("velora.OrderInfo must be init with productId of type str!");
+  return NewObject<OrderInfo>(L, [productId] { return OrderInfo::New(productId); });
 }
 
-Outcome GetProductList(lua_State* L) {
+// The functions of the class table, under their own names.
+namespace functions {
+
+Outcome getProductList(lua_State* L) {
   std::unordered_map<std::string, ProductInfo> products;
   OrderInfo::getProductList(products);
   if (products.empty()) return Outcome::Results(0);
-  RecordPusher pusher;
-  return PushProtected(L, [&](lua_State* state) {
-    lua_newtable(state);
+  return PushProtected(L, [&products](lua_State* inner) {
+    ModuleState& state = *ModuleStateOf(inner);
+    lua_createtable(inner, 0, TableSize(products.size()));
     for (const auto& [productId, product] : products) {
-      lua_pushstring(state, productId.c_str());
-      pusher.Hold(BindProduct(product));
-      pusher.Push<ProductInfo>(state);
-      lua_rawset(state, -3);
+      PushString(inner, productId);
+      if (Owned** block = PushWithoutHolder<ProductInfo>(inner, state))
+        *block = state.Create<ProductInfoHolder>(product);
+      lua_rawset(inner, -3);
     }
   });
 }
 
-Outcome HasProduct(lua_State* L) {
+Outcome hasProduct(lua_State* L) {
   bool known = false;
   if (const char* productId = TextArgument(L, 1)) {
     known = OrderInfo::hasProduct(productId);
   } else if (auto* holder = Self<OrderInfo>(L)) {
     const Pin pin(*holder);
-    known = OrderInfo::hasProduct(*holder->record);
+    known = OrderInfo::hasProduct(holder->record);
   }
   lua_pushboolean(L, known);
   return Outcome::Results(1);
 }
 
-Outcome RegProduct(lua_State* L) {
+Outcome regProduct(lua_State* L) {
   if (const char* productId = TextArgument(L, 1)) {
     OrderInfo::regProduct(productId);
   } else if (auto* holder = Self<ProductInfo>(L)) {
@@ -62,49 +61,41 @@ Outcome RegProduct(lua_State* L) {
   return Outcome::Results(0);
 }
 
-Outcome GetProductType(lua_State* L) {
+Outcome getProductType(lua_State* L) {
   const char* productId = TextArgument(L, 1);
   if (productId == nullptr) return Refusal();
   lua_pushinteger(L, OrderInfo::getProductType(productId));
   return Outcome::Results(1);
 }
 
-Outcome SetProductType(lua_State* L) {
+Outcome setProductType(lua_State* L) {
   if (!lua_isstring(L, 1) || !lua_isinteger(L, 2)) return Refusal();
   const std::int32_t type = Low32(lua_tointeger(L, 2));
   OrderInfo::setProductType(TextArgument(L, 1), type);
   return Outcome::Results(0);
 }
 
-Outcome Obj2Json(lua_State* L) {
+Outcome obj2Json(lua_State* L) {
   auto* holder = Self<OrderInfo>(L);
   if (holder == nullptr) return Refusal();
   return TextResult(L, [holder](std::string& out) {
     const Pin pin(*holder);
-    return OrderInfo::obj2Json(*holder->record, out) && *out.c_str() != '\0';
+    return OrderInfo::obj2Json(holder->record, out) && *out.c_str() != '\0';
   });
 }
 
-const luaL_Reg kAccessors[] = {
-#define VELORA_FIELD(name, Family) VELORA_GETTER(OrderInfo, name, Family), VELORA_SETTER(OrderInfo, name, Family),
-#define VELORA_FIELD_READ_ONLY(name, Family) VELORA_GETTER(OrderInfo, name, Family),
-#include "platform/order_info.def"
-#undef VELORA_FIELD
-#undef VELORA_FIELD_READ_ONLY
-    {nullptr, nullptr},
-};
+constexpr auto produceCartInfo = family::String::Get<&OrderInfo::produceCartInfo>;
+
+}  // namespace functions
 
 const luaL_Reg kFunctions[] = {
-    {"new", Entry<New>},
-    {"__gc", Entry<Collect<OrderInfo>>},
-    {"__tostring", Entry<RecordToString<OrderInfo>>},
-    {"getProductList", Entry<GetProductList>},
-    {"hasProduct", Entry<HasProduct>},
-    {"regProduct", Entry<RegProduct>},
-    {"getProductType", Entry<GetProductType>},
-    {"setProductType", Entry<SetProductType>},
-    {"obj2Json", Entry<Obj2Json>},
-    {"produceCartInfo", Entry<family::String::Get<&OrderInfo::produceCartInfo>>},
+#define VELORA_FIELD(name, Family) VELORA_GETTER(OrderInfo, name, Family), VELORA_SETTER(OrderInfo, name, Family),
+#define VELORA_FIELD_READ_ONLY(name, Family) VELORA_GETTER(OrderInfo, name, Family),
+#define VELORA_CLASS_FUNCTION(name) Row<functions::name>(#name),
+#include "platform/order_info.def"
+    Row<New>("new"),
+    Row<Collect<OrderInfo>>("__gc"),
+    Row<RecordToString<OrderInfo>>("__tostring"),
     {nullptr, nullptr},
 };
 
@@ -137,7 +128,7 @@ const NamedInteger kConstants[] = {
 }  // namespace
 
 void RegisterOrderInfo(lua_State* L) {
-  RegisterClass<OrderInfo>(L, {kAccessors, kFunctions});
+  RegisterClass<OrderInfo>(L, kFunctions);
   for (const NamedInteger& constant : kConstants) SetConstant(L, constant.name, constant.value);
 }
 

@@ -1,6 +1,4 @@
-// `QueryRankInfo`: which ranking to ask for, over whom, how many entries.
-#include "platform/query_rank_info.h"
-
+// `QueryRankInfo`: which ranking to query, over whom, how many entries.
 #include "binding/set_constant.h"
 #include "records/classes.h"
 #include "records/fields.h"
@@ -10,29 +8,22 @@ namespace {
 
 using tarn::velora::QueryRankInfo;
 
-Outcome New(lua_State* L) {
-  return NewWithOptionalText<QueryRankInfo>(L, [L](const auto& query) { return GiveRecord(L, query); });
-}
-
 const luaL_Reg kFunctions[] = {
-    {"new", Entry<New>},
-    {"__gc", Entry<Collect<QueryRankInfo>>},
-    {"__tostring", Entry<RecordToString<QueryRankInfo>>},
+    Row<NewWithOptionalString<QueryRankInfo>>("new"),
+    Row<Collect<QueryRankInfo>>("__gc"),
+    Row<RecordToString<QueryRankInfo>>("__tostring"),
 #define VELORA_FIELD(name, Family) \
   VELORA_GETTER(QueryRankInfo, name, Family), VELORA_SETTER(QueryRankInfo, name, Family),
 #include "platform/query_rank_info.def"
-#undef VELORA_FIELD
     {nullptr, nullptr},
 };
 
 }  // namespace
 
 void RegisterQueryRankInfo(lua_State* L) {
-  RegisterClass<QueryRankInfo>(L, {kFunctions});
-  SetConstant(L, "QUERY_RANK_TYPE_SCORE", QueryRankInfo::QUERY_RANK_TYPE_SCORE);
-  SetConstant(L, "QUERY_RANK_TYPE_GRADE", QueryRankInfo::QUERY_RANK_TYPE_GRADE);
-  SetConstant(L, "QUERY_RANK_SCOPE_ALL", QueryRankInfo::QUERY_RANK_SCOPE_ALL);
-  SetConstant(L, "QUERY_RANK_SCOPE_FRIEND", QueryRankInfo::QUERY_RANK_SCOPE_FRIEND);
+  RegisterClass<QueryRankInfo>(L, kFunctions);
+#define VELORA_QUERY_RANK_CONSTANT(name) SetConstant(L, #name, QueryRankInfo::name);
+#include "platform/query_rank_constants.def"
 }
 
 }  // namespace luavelora

@@ -1,4 +1,4 @@
-// What the wrappers need of share requests: writing the cached fields back before the record leaves the module.
+// What the wrappers need of share requests.
 #pragma once
 
 #include <memory>
@@ -7,8 +7,8 @@
 
 namespace luavelora {
 
-// Writes the eight caches into the record, changed or not, and gives the holder's reference, which stays the
-// holder's. Pin the holder: the SDK's setters are called.
+// Writes the cached fields into the record, changed or not, and returns the holder's reference. Pin the holder: this
+// calls the SDK's setters.
 const std::shared_ptr<tarn::velora::ShareInfo>& FlushShare(ShareInfoHolder& holder);
 
 }  // namespace luavelora

@@ -114,7 +114,7 @@ TEST_F(Abi, SharingWritesTheCachesIntoTheRecord) {
       for _, name in ipairs{'aLinkParams', 'altTextMsg', 'iLinkParams', 'linkParams', 'linkTextMsg', 'subTextMsg',
         'textMsg'} do share['set_' .. name](share, {k = name}) end)");
     lua_getglobal(host.L, "share");
-    const auto record = *luavelora::HolderAt<luavelora::ShareInfoHolder>(host.L, -1)->record;
+    const auto record = luavelora::HolderIn<tarn::velora::ShareInfo>(lua_touserdata(host.L, -1))->record;
     lua_pop(host.L, 1);
     std::string text;
     EXPECT_TRUE(record->toString(text));

@@ -1,20 +1,20 @@
-// The lifecycle wrappers whose rules do not follow from their operation's type.
-#include "wrappers/lifecycle.h"
-
+// Lifecycle wrappers with rules of their own.
 #include <algorithm>
 #include <cstring>
 
-namespace luavelora {
+#include "wrappers/wrappers.h"
+
+namespace luavelora::wrappers {
 
 // The one query that answers a bad argument with a value.
-Outcome HasFeature(lua_State* L) {
+Outcome hasFeature(lua_State* L) {
   const char* feature = TextArgument(L, 1);
   lua_pushboolean(L, feature != nullptr && tarn::velora::hasFeature(feature));
   return Outcome::Results(1);
 }
 
 // A second argument without text chooses the shorter form, as an absent one does.
-Outcome GetPropStr(lua_State* L) {
+Outcome getPropStr(lua_State* L) {
   const char* name = TextArgument(L, 1);
   if (name == nullptr) return Refusal();
   const char* second = TextArgument(L, 2);
@@ -25,7 +25,7 @@ Outcome GetPropStr(lua_State* L) {
 
 // The SDK takes an untyped pointer, to an int, to text or to a one-byte bool as the Lua type says, and reads it in the
 // form that the option's name asks for. Zeros behind a short value keep a reading in the wrong form inside the buffer.
-Outcome LumoSetOption(lua_State* L) {
+Outcome zvLumoSetOption(lua_State* L) {
   if (lua_gettop(L) < 2 || !lua_isstring(L, 1)) return Refusal();
   const char* name = TextArgument(L, 1);
   alignas(std::int64_t) char padded[2 * sizeof(std::int64_t)] = {};
@@ -49,7 +49,7 @@ Outcome LumoSetOption(lua_State* L) {
 }
 
 // Nothing, nil and the empty string clear the text.
-Outcome SetCmdLineParameter(lua_State* L) {
+Outcome setCmdLineParameter(lua_State* L) {
   const char* text = nullptr;
   if (!lua_isnoneornil(L, 1)) {
     if (lua_gettop(L) == 1) text = TextArgument(L, 1);
@@ -60,4 +60,4 @@ Outcome SetCmdLineParameter(lua_State* L) {
   return Outcome::Results(0);
 }
 
-}  // namespace luavelora
+}  // namespace luavelora::wrappers

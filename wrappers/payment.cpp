@@ -1,9 +1,10 @@
-// The payment wrappers whose rules do not follow from their operation's type.
-#include "wrappers/payment.h"
+// Payment wrappers with rules of their own.
+#include "records/push.h"
+#include "wrappers/wrappers.h"
 
-namespace luavelora {
+namespace luavelora::wrappers {
 
-Outcome QuerySkuDetails(lua_State* L) {
+Outcome zvQuerySkuDetails(lua_State* L) {
   if (!lua_isstring(L, 1) || !lua_istable(L, 2)) return Refusal();
   const char* type = TextArgument(L, 1);
   tarn::velora::StringList productIds;
@@ -13,12 +14,11 @@ Outcome QuerySkuDetails(lua_State* L) {
   return Outcome::Results(0);
 }
 
-Outcome GetCheckedOrders(lua_State* L) {
+Outcome zvGetCheckedOrders(lua_State* L) {
   std::vector<std::shared_ptr<tarn::velora::OrderInfo>> orders;
   tarn::velora::zvGetCheckedOrders(orders);
   if (orders.empty()) return Outcome::Results(0);
-  RecordPusher pusher;
-  return PushProtected(L, [&](lua_State* state) { PushRecordList(state, pusher, orders); });
+  return PushProtected(L, [&orders](lua_State* inner) { PushRecordList(inner, *ModuleStateOf(inner), orders); });
 }
 
-}  // namespace luavelora
+}  // namespace luavelora::wrappers

@@ -1,33 +1,32 @@
-// The module's registration list, joined at compile time from the rows of its families.
+// The module's registration list, joined at compile time from the wrappers and the callback accessors.
 #include "wrappers/registration.h"
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
+#include <iterator>
 
 #include "events/callbacks.h"
-#include "wrappers/lifecycle.h"
-#include "wrappers/payment.h"
-#include "wrappers/services.h"
-#include "wrappers/social.h"
+#include "wrappers/record_parameter.h"
+#include "wrappers/wrappers.h"
 
 namespace luavelora {
 namespace {
 
-// One array with the rows of all, and an empty row at the end.
-template <std::size_t... sizes>
-constexpr auto Join(const luaL_Reg (&... lists)[sizes]) {
-  std::array<luaL_Reg, (sizes + ... + 1)> joined{};
-  auto* end = joined.data();
-  ((end = std::copy(lists, lists + sizes, end)), ...);
-  return joined;
-}
+constexpr luaL_Reg kWrappers[] = {
+#define VELORA_OPERATION(name) Row<Wrapper<&tarn::velora::name>>(#name),
+#define VELORA_OPERATION_OWN_RULES(name) Row<wrappers::name>(#name),
+#include "platform/operations.def"
+};
 
-constexpr auto kRows =
-    Join(kLifecycleWrappers, kPaymentWrappers, kSocialWrappers, kServiceWrappers, kCallbackAccessors);
+constexpr auto kRows = [] {
+  std::array<luaL_Reg, std::size(kWrappers) + std::size(kCallbackAccessors) + 1> rows{};
+  std::copy(std::begin(kCallbackAccessors), std::end(kCallbackAccessors),
+            std::copy(std::begin(kWrappers), std::end(kWrappers), rows.begin()));
+  return rows;
+}();
 
 }  // namespace
 
-const luaL_Reg* const kModuleFunctions = kRows.data();
+const std::span<const luaL_Reg> kModuleFunctions = kRows;
 
 }  // namespace luavelora

@@ -2,10 +2,11 @@
 #pragma once
 
 #include <lua.hpp>
+#include <span>
 
 namespace luavelora {
 
-// The 115 wrappers and the 120 callback accessors, closed by an empty row.
-extern const luaL_Reg* const kModuleFunctions;
+// The rows of the wrappers and the callback accessors, and an empty row at the end.
+extern const std::span<const luaL_Reg> kModuleFunctions;
 
 }  // namespace luavelora

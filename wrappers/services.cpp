@@ -1,16 +1,16 @@
-// The service wrappers whose rules do not follow from their operation's type.
-#include "wrappers/services.h"
+// Service wrappers with rules of their own.
+#include "wrappers/wrappers.h"
 
-namespace luavelora {
+namespace luavelora::wrappers {
 
 // Any value counts, by its truth.
-Outcome SetFloatBtnVisible(lua_State* L) {
+Outcome zvSetFloatBtnVisible(lua_State* L) {
   tarn::velora::zvSetFloatBtnVisible(lua_toboolean(L, 1) != 0);
   return Outcome::Results(0);
 }
 
 // A missing list is refused here, where the other list wrappers raise.
-Outcome SendPushNotification(lua_State* L) {
+Outcome zvSendPushNotification(lua_State* L) {
   if (!lua_isstring(L, 1) || !lua_istable(L, 2)) return Refusal();
   const char* text = TextArgument(L, 1);
   std::int32_t length = 0;
@@ -20,7 +20,7 @@ Outcome SendPushNotification(lua_State* L) {
 }
 
 // A fifth argument without text chooses the shorter form, as an absent one does.
-Outcome CreateQRCode(lua_State* L) {
+Outcome zvCreateQRCode(lua_State* L) {
   using Text = Parameter<const std::string&>;
   return WithArguments<const std::string&, std::int32_t, std::int32_t, const std::string&>(
       L, [L](const char* text, std::int32_t width, std::int32_t height, const char* path) {
@@ -42,7 +42,7 @@ lua_Integer OptionalInteger(lua_State* L, int index, lua_Integer otherwise) {
 }  // namespace
 
 // The data goes to the SDK without a copy; the size never reaches beyond it.
-Outcome PushGameVoice(lua_State* L) {
+Outcome zvPushGameVoice(lua_State* L) {
   std::size_t length = 0;
   const char* data = lua_tolstring(L, 1, &length);
   if (data == nullptr) return Refusal();
@@ -53,4 +53,4 @@ Outcome PushGameVoice(lua_State* L) {
   return Outcome::Results(0);
 }
 
-}  // namespace luavelora
+}  // namespace luavelora::wrappers

@@ -1,10 +1,10 @@
-// The social wrapper whose rules do not follow from its operation's type.
-#include "wrappers/social.h"
+// Social wrappers with rules of their own.
+#include "wrappers/wrappers.h"
 
-namespace luavelora {
+namespace luavelora::wrappers {
 
 // The SDK takes a pointer and a count; an empty list is a null pointer.
-Outcome DisplayQuests(lua_State* L) {
+Outcome zvDisplayQuests(lua_State* L) {
   if (!lua_istable(L, 1)) return Outcome::Error(kNeedsTable);
   std::int32_t length = 0;
   if (const char* error = ClaimedLength(L, 1, length)) return Outcome::Error(error);
@@ -13,4 +13,4 @@ Outcome DisplayQuests(lua_State* L) {
   return Outcome::Results(0);
 }
 
-}  // namespace luavelora
+}  // namespace luavelora::wrappers

@@ -1,4 +1,5 @@
-// The six helpers. Metatables and callback tables stand in the registry, each under its name.
+// The binding helpers. Metatables and callback tables are kept in the registry under their names.
+#include "binding/helpers/metatables.h"
 #include "platform/binding_helpers.h"
 
 namespace {
@@ -43,6 +44,11 @@ void InitUserTypeMetaTable(lua_State* L, const char* name) {
   lua_pushvalue(L, classTable);
   lua_setfield(L, -2, "__index");
   // Registered last: an error on the way here leaves no half-made metatable behind.
+  lua_setfield(L, LUA_REGISTRYINDEX, name);
+}
+
+void RemoveUserTypeMetaTable(lua_State* L, const char* name) {
+  lua_pushnil(L);
   lua_setfield(L, LUA_REGISTRYINDEX, name);
 }
 

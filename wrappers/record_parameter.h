@@ -1,18 +1,17 @@
-// The row of a wrapper whose rules follow from its operation's type, records included.
+// Record parameters of the wrapper template.
 #pragma once
 
 #include "binding/wrapper.h"
-#include "platform/operations.h"
-#include "records/convention.h"
+#include "records/self.h"
 #include "records/share_info.h"
 
 namespace luavelora {
 
-// The holder's own reference goes to the SDK, pinned for the call; a share request is flushed first.
+// The holder's own reference for the SDK, pinned for the call. A share request is flushed first.
 template <class Record>
 class RecordArgument {
  public:
-  explicit RecordArgument(HolderOf<Record>& holder) : pin_(holder), reference_(*holder.record) {
+  explicit RecordArgument(HolderOf<Record>& holder) : pin_(holder), reference_(holder.record) {
     if constexpr (std::is_same_v<Record, tarn::velora::ShareInfo>) FlushShare(holder);
   }
   operator const std::shared_ptr<Record>&() const { return reference_; }
@@ -29,8 +28,5 @@ struct Parameter<const std::shared_ptr<Record>&> {
   static View Read(lua_State* L, int index) { return Self<Record>(L, index); }
   static RecordArgument<Record> Make(View view) { return RecordArgument<Record>(*view); }
 };
-
-#define VELORA_WRAPPER(name) \
-  { #name, Entry < Wrapper < &tarn::velora::name>> }
 
 }  // namespace luavelora

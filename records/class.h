@@ -1,0 +1,93 @@
+// What the record classes have in common: construction, finalization, string forms, registration.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "binding/boundary.h"
+#include "binding/conversions.h"
+#include "platform/binding_helpers.h"
+#include "records/push.h"
+
+namespace luavelora {
+
+// The errors of each class's constructor and to-string function.
+template <class Record>
+struct ClassErrors;
+
+#define VELORA_CLASS(Record, luaName)                                                   \
+  template <>                                                                           \
+  struct ClassErrors<tarn::velora::Record> {                                            \
+    static constexpr const char* kUnsupported = "velora." luaName " is not supported!"; \
+    static constexpr const char* kNoString = "str(velora." luaName ") error.";          \
+  };
+#include "platform/records.def"
+
+// Pushes a constructor's new object, whose holder is made from what `produce()` returns: a record, or a reference to
+// one, an empty one being an error. The userdata comes first, so that nothing is owned when Lua may raise.
+template <class Record, class Produce>
+Outcome NewObject(lua_State* L, Produce produce) {
+  ModuleState* state = ModuleStateOf(L);
+  Owned** block = state == nullptr ? nullptr : PushWithoutHolder<Record>(L, *state);
+  if (block == nullptr) return Outcome::Results(state == nullptr ? 0 : 1);
+  const auto record = produce();
+  if constexpr (requires { record.get(); })
+    if (record == nullptr) return Outcome::Error(ClassErrors<Record>::kUnsupported);
+  *block = state->Create<HolderOf<Record>>(record);
+  return Outcome::Results(1);
+}
+
+// The constructor of a class whose factories are New() and New(string), as the arguments choose. A first argument that
+// is not a string or number is refused.
+template <class Record>
+Outcome NewWithOptionalString(lua_State* L) {
+  if (lua_gettop(L) == 0) return NewObject<Record>(L, [] { return Record::New(); });
+  const char* text = TextArgument(L, 1);
+  return text == nullptr ? Refusal() : NewObject<Record>(L, [text] { return Record::New(text); });
+}
+
+// `__gc`: detaches the holder from its userdata, so that later calls see a wrong self, and frees it.
+template <class Record>
+Outcome Collect(lua_State* L) {
+  if (auto* holder = Self<Record>(L)) {
+    *static_cast<Owned**>(lua_touserdata(L, 1)) = nullptr;
+    holder->Release();
+  }
+  return Outcome::Results(0);
+}
+
+// `__tostring`: `fill(holder, out)` writes the string and reports success.
+template <class Record, class Fill>
+Outcome ToString(lua_State* L, Fill fill) {
+  HolderOf<Record>* holder = Self<Record>(L);
+  if (holder == nullptr) return Refusal();
+  bool filled = false;
+  const Outcome outcome = TextResult(L, [&](std::string& out) {
+    const Pin pin(*holder);
+    return filled = fill(*holder, out);
+  });
+  return filled ? outcome : Outcome::Error(ClassErrors<Record>::kNoString);
+}
+
+// `__tostring` of a class whose record needs no preparation.
+template <class Record>
+Outcome RecordToString(lua_State* L) {
+  return ToString<Record>(L, [](HolderOf<Record>& holder, std::string& out) { return holder.record->toString(out); });
+}
+
+// Makes the class table from `rows`, which end with an empty row, registers the class and stores its table in the table
+// on top of the stack. May raise.
+template <class Record, std::size_t count>
+void RegisterClass(lua_State* L, const luaL_Reg (&rows)[count]) {
+  using Class = tarn::velora::ClassNames<Record>;
+  lua_createtable(L, 0, static_cast<int>(count) - 1);
+  luaL_setfuncs(L, rows, 0);
+  InitUserTypeMetaTable(L, Class::kMetatable);
+  luaL_getmetatable(L, Class::kMetatable);
+  lua_pushboolean(L, 1);
+  lua_rawsetp(L, -2, &kClassKey<Record>);
+  lua_rawsetp(L, LUA_REGISTRYINDEX, &kClassKey<Record>);
+  lua_setfield(L, -2, Class::kName);
+}
+
+}  // namespace luavelora
