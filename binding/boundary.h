@@ -2,8 +2,10 @@
 // Lua. So every function that Lua calls is an Entry around a body, and the body returns an Outcome instead of raising.
 #pragma once
 
+#include <cstdio>
 #include <exception>
 #include <lua.hpp>
+#include <new>
 
 namespace luavelora {
 
@@ -35,14 +37,24 @@ inline Outcome Refusal() { return Outcome::Results(0); }
 class ErrorText {
  public:
   // Returns the message of the Lua error for `exception`; valid while this object lives.
-  const char* Of(const std::exception& exception);
+  const char* Of(const std::exception& exception) {
+    if (dynamic_cast<const std::bad_alloc*>(&exception) != nullptr) return "not enough memory";
+    std::snprintf(text_, sizeof text_, "%s", exception.what());
+    return text_;
+  }
 
  private:
   char text_[200];
 };
 
 // Raises the error of a failed outcome.
-[[noreturn]] void Raise(lua_State* L, Outcome outcome);
+[[noreturn]] inline void Raise(lua_State* L, Outcome outcome) {
+  if (outcome.text() == nullptr)
+    lua_error(L);
+  else
+    luaL_error(L, "%s", outcome.text());
+  std::terminate();  // not reached: both raise
+}
 
 // Runs `body` and turns the C++ exceptions that leave it into an outcome. Only std::exception is caught, so a Lua error
 // that is itself a C++ exception passes through.

@@ -1,4 +1,4 @@
-// The functions of the table `offline`, each one call of the runtime's control functions.
+// Each function of the table `offline` calls one of the runtime's control functions.
 #include "player/offline_table.h"
 
 #include <cstdint>
@@ -19,29 +19,23 @@ namespace {
 namespace offline = tarn::velora::offline;
 
 using Lines = std::vector<std::string>;
+using luavelora::Outcome;
 
-// Runs in protected mode; the lines belong to the caller.
-int PushLinesProtected(lua_State* L) {
-  const Lines& lines = *static_cast<const Lines*>(lua_touserdata(L, 1));
-  lua_createtable(L, static_cast<int>(lines.size()), 0);
-  for (std::size_t i = 0; i < lines.size(); ++i) {
-    lua_pushlstring(L, lines[i].data(), lines[i].size());
-    lua_rawseti(L, -2, static_cast<lua_Integer>(i + 1));
-  }
-  return 1;
-}
-
-int PushLines(lua_State* L, Lines lines) {
-  lua_pushcfunction(L, PushLinesProtected);
-  lua_pushlightuserdata(L, &lines);
-  return lua_pcall(L, 1, 1, 0) == LUA_OK ? 1 : kErrorOnTop;
+Outcome PushLines(lua_State* L, const Lines& lines) {
+  return luavelora::PushProtected(L, [&](lua_State* state) {
+    lua_createtable(state, static_cast<int>(lines.size()), 0);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      lua_pushlstring(state, lines[i].data(), lines[i].size());
+      lua_rawseti(state, -2, static_cast<lua_Integer>(i + 1));
+    }
+  });
 }
 
 // offline.calls(): the SDK calls since the last time.
-int Calls(lua_State* L) { return PushLines(L, offline::TakeCalls()); }
+Outcome Calls(lua_State* L) { return PushLines(L, offline::TakeCalls()); }
 
 // offline.log(): the log lines since the last time.
-int Log(lua_State* L) { return PushLines(L, offline::TakeLog()); }
+Outcome Log(lua_State* L) { return PushLines(L, offline::TakeLog()); }
 
 offline::Answer ReadAnswer(lua_State* L, int index) {
   switch (lua_type(L, index)) {
@@ -58,8 +52,8 @@ offline::Answer ReadAnswer(lua_State* L, int index) {
   }
 }
 
-// offline.answer(name, value): what an operation answers from now on.
-int Answer(lua_State* L) {
+// offline.answer(name, value): sets what an operation returns.
+Outcome Answer(lua_State* L) {
   const std::string name(CheckText(L, 1));
   offline::Answer answer = ReadAnswer(L, 2);
   try {
@@ -67,16 +61,16 @@ int Answer(lua_State* L) {
   } catch (const std::invalid_argument& error) {
     throw ArgumentError(1, error.what());
   }
-  return 0;
+  return Outcome::Results(0);
 }
 
 // offline.post(event, ...): queues an event.
-int Post(lua_State* L) {
+Outcome Post(lua_State* L) {
   offline::Post(MakeEvent(L));
-  return 0;
+  return Outcome::Results(0);
 }
 
-// What the handlers' operations take. The texts stay on the Lua stack meanwhile.
+// What the handlers' operations take. The strings are on the Lua stack.
 struct DownloadArguments {
   const char* text = nullptr;
   const char* bytes = nullptr;
@@ -90,7 +84,7 @@ DownloadArguments ReadDownloadArguments(lua_State* L) {
   arguments.bytes = bytes.data();
   const auto length = static_cast<lua_Integer>(bytes.size());
   const lua_Integer count = lua_isnoneornil(L, 4) ? length : CheckInteger(L, 4);
-  // Of a null pointer nobody reads, whatever the count.
+  // Without bytes any count will do, as nothing is read from a null pointer.
   if (count < 0 || (arguments.bytes != nullptr && count > length))
     throw ArgumentError(4, "count must lie between 0 and the number of bytes given");
   arguments.count = static_cast<std::uint64_t>(count);
@@ -112,8 +106,8 @@ constexpr DownloadOperation kDownloadOperations[] = {
      [](Handler& handler, const DownloadArguments& given) { handler.onFinish(given.text, given.bytes, given.count); }},
 };
 
-// offline.download(operation, ...): calls every registered handler, here and now.
-int Download(lua_State* L) {
+// offline.download(operation, ...): calls every registered handler at once.
+Outcome Download(lua_State* L) {
   const std::string_view name = CheckText(L, 1);
   for (const DownloadOperation& operation : kDownloadOperations) {
     if (operation.name != name) continue;
@@ -121,13 +115,13 @@ int Download(lua_State* L) {
       throw ArgumentError(operation.highestArgument + 1, std::string(name) + " takes no such value");
     const DownloadArguments arguments = ReadDownloadArguments(L);
     for (Handler* handler : offline::Handlers()) operation.call(*handler, arguments);
-    return 0;
+    return Outcome::Results(0);
   }
   throw ArgumentError(1, "onInited, onProgress or onFinish expected, got '" + std::string(name) + "'");
 }
 
-constexpr luaL_Reg kFunctions[] = {{"calls", Entry<Calls>}, {"answer", Entry<Answer>},     {"post", Entry<Post>},
-                                   {"log", Entry<Log>},     {"download", Entry<Download>}, {nullptr, nullptr}};
+constexpr luaL_Reg kFunctions[] = {{"calls", Checked<Calls>}, {"answer", Checked<Answer>},     {"post", Checked<Post>},
+                                   {"log", Checked<Log>},     {"download", Checked<Download>}, {nullptr, nullptr}};
 
 }  // namespace
 
