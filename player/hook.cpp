@@ -1,4 +1,4 @@
-// The hook, and the two functions of the library `debug` that stand in for Lua's.
+// The hook, and the replacements of two functions of the library `debug`.
 #include "player/hook.h"
 
 #include "player/interrupt.h"
@@ -19,7 +19,8 @@ void OnHook(lua_State* L, lua_Debug* event) {
 
 lua_State* ThreadArgument(lua_State* L) { return lua_isthread(L, 1) ? lua_tothread(L, 1) : L; }
 
-// debug.sethook([thread,] hook, mask [, count]), or debug.sethook([thread]). The arguments stay, and so the thread.
+// debug.sethook([thread,] hook, mask [, count]), or debug.sethook([thread]). The arguments stay on the
+// stack, which keeps the thread alive.
 int SetScriptHook(lua_State* L) {
   lua_State* thread = ThreadArgument(L);
   const int arguments = lua_gettop(L);
@@ -31,7 +32,7 @@ int SetScriptHook(lua_State* L) {
   return 0;
 }
 
-// debug.gethook([thread]). The player's hook is none, and none is shown as Lua shows it.
+// debug.gethook([thread]). Returns what Lua returns without a hook if the hook is the player's.
 int GetScriptHook(lua_State* L) {
   if (lua_gethook(ThreadArgument(L)) == OnHook) {
     lua_pushnil(L);
@@ -46,7 +47,7 @@ int GetScriptHook(lua_State* L) {
   return 3;
 }
 
-// Puts `function`, which has Lua's own as its upvalue, into the table on top of the stack.
+// Replaces the function `name` in the table on top of the stack by `function`, with the old one as its upvalue.
 void Replace(lua_State* L, const char* name, lua_CFunction function) {
   lua_getfield(L, -1, name);
   lua_pushcclosure(L, function, 1);

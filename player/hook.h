@@ -1,13 +1,13 @@
-// The player's debug hook: it stops what goes on after Ctrl-C and, where that is wanted, reports refused calls.
+// The player's debug hook: interrupts scripts after Ctrl-C and, with --strict, reports refused calls.
 #pragma once
 
 #include <lua.hpp>
 
 namespace player {
 
-// Sets the hook; coroutines have it from their makers. Scripts do not see it: debug.sethook gives way to a hook of the
-// script's own and brings the player's back when that is taken away; debug.gethook tells of the script's alone. What a
-// script makes while its own hook is set stays without the player's. May raise a memory error.
+// Sets the hook; coroutines inherit it from their creator. Scripts do not see it: debug.sethook replaces it by the
+// script's hook and restores it when that is removed; debug.gethook returns only the script's hook. Coroutines created
+// while the script's own hook is set do not get the player's. May raise a memory error.
 void OpenHook(lua_State* L, bool reportRefusedCalls);
 
 }  // namespace player

@@ -1,4 +1,4 @@
-// The handler sets a flag and nothing else: it may run in the middle of anything, on Windows on a thread of its own.
+// The handler only sets a flag: it may run at any point, and on Windows in a thread of its own.
 #include "player/interrupt.h"
 
 #include <atomic>
@@ -31,7 +31,7 @@ void StopWhenInterrupted(lua_State* L) {
   if (!interrupted) return;
   static const Clock::time_point seen = Clock::now();
   if (Clock::now() - seen < kPatience) return;
-  // Whoever catches the error gets the next one at once.
+  // A script that catches the error gets the next one at once.
   lua_sethook(L, lua_gethook(L), lua_gethookmask(L), 1);
   luaL_where(L, 0);
   lua_pushliteral(L, "interrupted");

@@ -1,4 +1,3 @@
-// The loader of either system behind one small interface.
 #include "player/library.h"
 
 #include <stdexcept>

@@ -1,4 +1,4 @@
-// Loading the module by name, as a game does.
+// Loads the module by file name, as a game does.
 #pragma once
 
 #include <filesystem>
@@ -14,11 +14,11 @@ struct Module {
   decltype(&DeinitLuaVelora) deinit;
 };
 
-// Loads the library `file`. It stays loaded until the process ends. Throws std::runtime_error with one line that says
-// what is wrong.
+// Loads the library `file`. It stays loaded until the process ends. Throws std::runtime_error with a message
+// of one line.
 Module LoadModule(const std::filesystem::path& file);
 
-// The module's library: beside the running program or, as installed on Linux, in the folder ../lib.
+// Returns the path of the module's library: beside the running program or, as installed on Linux, in ../lib.
 std::filesystem::path DefaultModule();
 
 }  // namespace player

@@ -30,7 +30,7 @@ constexpr int kInterrupted = 130;
 using Clock = std::chrono::steady_clock;
 constexpr Clock::duration kFrameTime = std::chrono::microseconds(16667);
 
-// What the steps of one run work with.
+// The state of a run.
 struct Game {
   Module module;
   int argc;
@@ -38,10 +38,10 @@ struct Game {
   const Options& options;
   std::int64_t frame = 0;
   QuitRequest quit = {};
-  bool closing = false;  // the Lua state is on its way out
+  bool closing = false;  // the Lua state is being closed
 };
 
-// Message handler: gives the error's text and the traceback.
+// Message handler: returns the error's text and the traceback.
 int Traceback(lua_State* L) {
   const char* text = lua_tostring(L, 1);
   if (text == nullptr && luaL_callmeta(L, 1, "__tostring") != 0) text = lua_tostring(L, -1);
@@ -50,7 +50,7 @@ int Traceback(lua_State* L) {
   return 1;
 }
 
-// Calls the script's function below its arguments; an error goes on with a traceback added to its text.
+// Calls the script's function below its arguments. Raises its errors again, with a traceback added.
 void CallScript(lua_State* L, int arguments) {
   const int function = lua_gettop(L) - arguments;
   lua_pushcfunction(L, Traceback);
@@ -59,7 +59,7 @@ void CallScript(lua_State* L, int arguments) {
   lua_remove(L, function);
 }
 
-// Sets the table `arg` as the program `lua` does: the script at 0, its arguments from 1 on, what came before below 0.
+// Sets the table `arg` as the program `lua` does: the script at 0, its arguments from 1, earlier arguments below 0.
 void SetArguments(lua_State* L, const Game& game) {
   lua_createtable(L, game.argc - game.options.script - 1, game.options.script + 1);
   for (int i = 0; i < game.argc; ++i) {
@@ -74,8 +74,8 @@ int Collect(lua_State* L) {
   return 0;
 }
 
-// Ends the state; finalisers of the script still run. The collection comes first since Lua 5.3 loops for ever where one
-// of them collects in a lua_close that interrupts a sweep.
+// Closes the state, which runs the script's finalisers. The collection comes first because Lua 5.3 loops for ever if a
+// finaliser collects in a lua_close that interrupts a sweep.
 void Close(lua_State* L, Game& game) {
   game.closing = true;
   lua_pushcfunction(L, Collect);
@@ -85,7 +85,7 @@ void Close(lua_State* L, Game& game) {
 
 int FinalStatus(int status) { return Interrupted() ? kInterrupted : status; }
 
-// os.exit([status]): ends the run there and then, but in the order in which every run ends. No pcall holds it up.
+// os.exit([status]): ends the run at once, through any pcall, but in the same order as every run.
 int Exit(lua_State* L) {
   Game& game = *static_cast<Game*>(lua_touserdata(L, lua_upvalueindex(1)));
   const bool isFlag = lua_isboolean(L, 1);
@@ -146,7 +146,7 @@ int End(lua_State* L) {
   return 0;
 }
 
-// Runs one step; says on stderr what went wrong and answers false where it raises.
+// Runs one step. If it raises, prints the error on stderr and returns false.
 bool Protected(lua_State* L, lua_CFunction step, Game& game) {
   lua_pushcfunction(L, step);
   lua_pushlightuserdata(L, &game);
@@ -166,7 +166,7 @@ int RunFrames(lua_State* L, Game& game, std::int64_t frames) {
       return kOutOfFrames;
     }
     std::this_thread::sleep_until(next);
-    // A frame that took long is followed by the next at once, but not by a burst that makes up for it.
+    // After a slow frame the next one starts at once, but there is no burst to catch up.
     next = std::max(next + kFrameTime, Clock::now());
     ++game.frame;
     if (!Protected(L, RunFrame, game)) return kFailed;

@@ -1,4 +1,4 @@
-// The table `offline`: how a script looks into the offline runtime and steers it.
+// The table `offline`, through which a script inspects and controls the offline runtime.
 #pragma once
 
 #include <lua.hpp>

@@ -1,4 +1,3 @@
-// Reading the command line, and what it can say.
 #include "player/options.h"
 
 #include <charconv>

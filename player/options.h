@@ -12,17 +12,17 @@ struct Options {
   enum class Task { kPlay, kHelp, kVersion };
 
   Task task = Task::kPlay;
-  std::optional<std::filesystem::path> module;  // the library to load, where it is not the one that came along
-  std::int64_t frames = std::numeric_limits<std::int64_t>::max();  // after which the run ends
+  std::optional<std::filesystem::path> module;  // the library to load instead of the one beside the program
+  std::int64_t frames = std::numeric_limits<std::int64_t>::max();  // the run ends after as many
   bool strict = false;                                             // report refused calls
   bool trace = false;                                              // show SDK calls
-  int script = 1;  // where the script's name stands in argv; the script's own arguments follow
+  int script = 1;  // index of the script's name in argv; its arguments follow
 };
 
-// Throws std::invalid_argument with a text that says what is wrong.
+// Throws std::invalid_argument with a message for the user.
 Options ParseOptions(int argc, char** argv);
 
-// What --help and --version print, and one line for who got the options wrong.
+// What --help and --version print, and one line for wrong options.
 extern const char* const kHelp;
 extern const char* const kVersion;
 extern const char* const kUsage;

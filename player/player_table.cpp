@@ -1,4 +1,4 @@
-// player.quit and player.onFrame. Nothing here owns anything, so Lua's own argument checks serve.
+// Nothing here owns anything, so Lua's own argument checks will do.
 #include "player/player_table.h"
 
 #include "player/arguments.h"
@@ -18,7 +18,7 @@ int ReadStatus(lua_State* L, int index) {
   return static_cast<int>(status);
 }
 
-// player.quit([status]): the run ends after this frame.
+// player.quit([status]): ends the run after this frame.
 int Quit(lua_State* L) {
   QuitRequest& request = *static_cast<QuitRequest*>(lua_touserdata(L, lua_upvalueindex(1)));
   request.status = ReadStatus(L, 1);
@@ -26,7 +26,7 @@ int Quit(lua_State* L) {
   return 0;
 }
 
-// player.onFrame(f): f(frame) is called after each frame's update; nil ends that.
+// player.onFrame(f): calls f(frame) after each frame's update; nil ends that.
 int OnFrame(lua_State* L) {
   if (!lua_isnil(L, 1)) luaL_checktype(L, 1, LUA_TFUNCTION);
   lua_settop(L, 1);

@@ -1,4 +1,4 @@
-// The table `player`: how a script ends the run and follows its frames.
+// The table `player`, with which a script ends the run and is called each frame.
 #pragma once
 
 #include <lua.hpp>
@@ -11,11 +11,11 @@ struct QuitRequest {
   int status = 0;
 };
 
-// Sets the global `player`, where `terminal` tells whether the output goes to one. `request` must outlive the state.
-// May raise a memory error.
+// Sets the global `player`. `terminal` is whether the output goes to a terminal. `request` must outlive the state. May
+// raise a memory error.
 void OpenPlayerTable(lua_State* L, QuitRequest& request, bool terminal);
 
-// Pushes the function given to player.onFrame and answers true, or pushes nothing where there is none.
+// Pushes the function given to player.onFrame and returns true, or pushes nothing and returns false.
 bool PushFrameFunction(lua_State* L);
 
 }  // namespace player

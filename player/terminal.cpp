@@ -1,4 +1,3 @@
-// Terminals of either system.
 #include "player/terminal.h"
 
 #include <cstdio>
@@ -26,7 +25,7 @@ void PrepareStreams() {
   std::setvbuf(stdout, nullptr, _IONBF, 0);
 }
 
-// A console, which understands escape codes from now on.
+// Returns whether the stream is a console, and makes it understand escape codes.
 bool OpenTerminal(std::FILE* stream) {
   const auto console = reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream)));
   DWORD mode = 0;

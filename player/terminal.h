@@ -1,19 +1,19 @@
-// What the program writes to, and how it marks what matters there. For the main thread.
+// The program's output streams and their colours. For the main thread.
 #pragma once
 
 namespace player {
 
-// Makes the same bytes come out on every system, and no line of one stream wait while the other goes on. Finds out
-// which streams are terminals; to be called first.
+// Puts both streams in binary mode and line-buffers stdout, so that output is identical on all systems and in order.
+// Finds out which streams are terminals. Call it first.
 void PrepareOutput();
 
-// Whether stdout is a terminal.
+// Returns whether stdout is a terminal.
 bool IsTerminal();
 
-// Whether stderr shows colours: it is a terminal, and the user has not set NO_COLOR.
+// Returns whether stderr shows colours: it is a terminal and NO_COLOR is not set.
 bool HasColour();
 
-// The codes around a word on stderr that tells of a warning; empty where there are no colours.
+// The codes around a warning's first word on stderr; empty without colours.
 const char* Yellow();
 const char* Plain();
 
