@@ -1,15 +1,12 @@
-// A game around the module, in C: it starts, runs a script, then a frame at a time until the script calls quitGame(),
-// and ends in order. Whatever may raise a Lua error runs in a protected call; outside one it would abort the process.
-// Usage: host_c SCRIPT
+/* The host of host.cpp, in C. */
 #if !defined(_WIN32)
-#define _POSIX_C_SOURCE 199309L  // nanosleep
+#define _POSIX_C_SOURCE 199309L /* for nanosleep */
 #endif
 
 #include <lauxlib.h>
 #include <lua.h>
 #include <lualib.h>
 #include <stdio.h>
-#include <stdlib.h>
 #if defined(_WIN32)
 #include <windows.h>
 #else
@@ -18,100 +15,64 @@
 
 #include "module/lua_velora.h"
 
-typedef struct Game {
-  const char* script;
-  int over;
-} Game;
-
-// What a game does between two updates: input, simulation, drawing. Here it only lets the time of a frame pass.
+/* What a game does in a frame: input, simulation, drawing. */
 static void RestOfFrame(void) {
 #if defined(_WIN32)
   Sleep(16);
 #else
-  const struct timespec frame = {0, 16 * 1000 * 1000};
-  nanosleep(&frame, NULL);
+  const struct timespec duration = {0, 16 * 1000 * 1000};
+  nanosleep(&duration, NULL);
 #endif
 }
 
-// quitGame(), for the script: the game ends after this frame.
-static int QuitGame(lua_State* L) {
-  Game* game = (Game*)lua_touserdata(L, lua_upvalueindex(1));
-  game->over = 1;
-  return 0;
-}
-
-// The steps. Each is called with the game as its argument.
-
 static int Start(lua_State* L) {
   luaL_openlibs(L);
-  lua_pushvalue(L, 1);
-  lua_pushcclosure(L, QuitGame, 1);
-  lua_setglobal(L, "quitGame");
-  InitLuaVelora(L);
-  return 0;
-}
-
-static int RunScript(lua_State* L) {
-  const Game* game = (const Game*)lua_touserdata(L, 1);
-  if (luaL_loadfile(L, game->script) != LUA_OK) return lua_error(L);
+  InitLuaVelora(L); /* makes the global table velora */
+  if (luaL_loadfile(L, (const char*)lua_touserdata(L, 1)) != LUA_OK) return lua_error(L);
   lua_call(L, 0, 0);
   return 0;
 }
 
-static int Update(lua_State* L) {
-  UpdateLuaVelora(L);
-  return 0;
+static int RunFrame(lua_State* L) {
+  UpdateLuaVelora(L); /* calls the script's callbacks */
+  lua_getglobal(L, "over");
+  return 1;
 }
 
 static int End(lua_State* L) {
   DeinitLuaVelora(L);
-  lua_gc(L, LUA_GCCOLLECT, 0);  // Lua 5.3 may hang in a lua_close that interrupts a collection
+  lua_gc(L, LUA_GCCOLLECT, 0); /* Lua 5.3 may hang in a lua_close that interrupts a collection */
   return 0;
 }
 
-// Message handler: the error's text, whatever value it is, and where it came from.
-static int Traceback(lua_State* L) {
+static int AddTraceback(lua_State* L) {
   luaL_traceback(L, L, luaL_tolstring(L, 1, NULL), 1);
   return 1;
 }
 
-// Runs one step; reports what it raises and answers 0 then.
-static int Protected(lua_State* L, lua_CFunction step, Game* game) {
-  lua_pushcfunction(L, Traceback);
+/* Calls a step in protected mode and leaves its result on the stack. If it raises, prints the error and returns 0. */
+static int Protected(lua_State* L, lua_CFunction step, void* argument) {
+  lua_settop(L, 0);
+  lua_pushcfunction(L, AddTraceback);
   lua_pushcfunction(L, step);
-  lua_pushlightuserdata(L, game);
-  const int status = lua_pcall(L, 1, 0, -3);
-  if (status != LUA_OK) {
-    const char* text = lua_tostring(L, -1);
-    fprintf(stderr, "host: %s\n", text != NULL ? text : "(an error without a text)");
-    lua_pop(L, 1);
-  }
-  lua_pop(L, 1);
-  return status == LUA_OK;
-}
-
-static int Play(lua_State* L, Game* game) {
-  if (!Protected(L, Start, game)) return 0;
-  int ok = Protected(L, RunScript, game);
-  while (ok && !game->over) {
-    RestOfFrame();
-    ok = Protected(L, Update, game);
-  }
-  return Protected(L, End, game) && ok;
+  lua_pushlightuserdata(L, argument);
+  if (lua_pcall(L, 1, 1, 1) == LUA_OK) return 1;
+  fprintf(stderr, "host: %s\n", lua_tostring(L, -1)); /* AddTraceback has made it a string */
+  return 0;
 }
 
 int main(int argc, char** argv) {
-  if (argc != 2) {
-    fputs("usage: host_c SCRIPT\n", stderr);
-    return EXIT_FAILURE;
-  }
-  lua_State* L = luaL_newstate();
+  lua_State* L = argc == 2 ? luaL_newstate() : NULL;
   if (L == NULL) {
-    fputs("host: not enough memory for a Lua state\n", stderr);
-    return EXIT_FAILURE;
+    fputs(argc == 2 ? "host: not enough memory\n" : "usage: host SCRIPT\n", stderr);
+    return 1;
   }
-  Game game = {argv[1], 0};
-  const int ok = Play(L, &game);
-  lua_close(L);  // the scripts' finalisers run here, so the game must still be there
-  return ok ? EXIT_SUCCESS : EXIT_FAILURE;
+  int ok = Protected(L, Start, argv[1]);
+  while (ok && !lua_toboolean(L, -1)) {
+    RestOfFrame();
+    ok = Protected(L, RunFrame, NULL);
+  }
+  ok = Protected(L, End, NULL) && ok;
+  lua_close(L);
+  return ok ? 0 : 1;
 }

@@ -1,11 +1,12 @@
 # Plays every Lua snippet of a page and compares what it prints, on both streams, with the text block that follows it.
-# A snippet begins with a comment that names its file. Variables: PLAYER (a list: a program and what goes with it), PAGE,
-# FOLDER (for the snippets).
+# A snippet begins with a comment that names its file. Variables: PLAYER (a list: a program and its first arguments),
+# PAGE, FOLDER (for the snippets), HOST (the file that every C++ block must be equal to).
 file(MAKE_DIRECTORY ${FOLDER})
-file(READ ${PAGE} rest)
+file(READ ${PAGE} page)
+file(READ ${HOST} host)
 set(snippets 0)
 
-# Moves `rest` behind the next `mark` and sets `taken` to what stood before it; `found` says whether there is one.
+# Moves `rest` behind the next `mark` and sets `taken` to what was before it; `found` says whether there is a mark.
 macro(take_until mark)
   string(FIND "${rest}" "${mark}" position)
   set(found FALSE)
@@ -18,6 +19,17 @@ macro(take_until mark)
   endif()
 endmacro()
 
+set(rest "${page}")
+take_until("\n```cpp\n")
+while(found)
+  take_until("\n```\n")
+  if(NOT "${taken}\n" STREQUAL host)
+    message(FATAL_ERROR "a C++ block differs from ${HOST}:\n${taken}")
+  endif()
+  take_until("\n```cpp\n")
+endwhile()
+
+set(rest "${page}")
 take_until("\n```lua\n")
 while(found)
   take_until("\n```\n")
