@@ -1,5 +1,5 @@
-// Argument errors of the player's Lua functions, on top of the module's boundary, and tests of arguments that throw
-// them. The tests make no Lua call that can raise.
+// The boundary of the player's Lua functions, which is the module's with argument errors added, and the checks of
+// arguments. The checks throw ArgumentError and make no Lua call that can raise.
 #pragma once
 
 #include <cstdio>
@@ -46,7 +46,7 @@ int Checked(lua_State* L) {
 // Returns "TYPE expected, got TYPE" for the value at `index`.
 std::string Mismatch(lua_State* L, int index, const char* expected);
 
-// Returns the string at `index`, zero bytes included, valid while it is on the stack. Refuses numbers.
+// Returns the string at `index`, zero bytes included, valid while it is on the stack. A number is not a string.
 std::string_view CheckText(lua_State* L, int index);
 
 // Stores the integer at `index` and returns true, or returns false if there is none. A string is not a number.
