@@ -1,9 +1,8 @@
--- Reads annotation files of the form of velora.lua. The reference, the luacheck globals and the tests all take what
--- they know from here.
+-- Reads annotation files in the form of velora.lua, for the reference, the luacheck globals and the tests.
 local annotations = {}
 
--- The type at the start of `text`, and what follows it. A blank ends a type, except inside brackets and before the
--- result of a function type.
+-- Returns the type at the start of `text`, and what follows it. A blank ends a type, except inside brackets and before
+-- the result of a function type.
 local function takeType(text)
   local depth, i = 0, 1
   while i <= #text do
@@ -20,7 +19,7 @@ local function takeType(text)
   return text:sub(1, i - 1), text:sub(i):match("^%s*(.*)$")
 end
 
--- The parts of `text` between commas that are not inside brackets.
+-- Splits `text` at the commas that are not inside brackets.
 local function splitAtCommas(text)
   local parts, depth, first = {}, 0, 1
   for i = 1, #text + 1 do
@@ -35,13 +34,13 @@ local function splitAtCommas(text)
   return parts[1] == "" and {} or parts
 end
 
--- A parameter `name` or `name?` of a type that may be absent either way.
+-- Returns a parameter `name` or `name?`.
 local function parameter(name, type, text)
   local bare, mark = name:match("^([%w_.]+)(%??)$")
   return { name = bare, type = type, optional = mark == "?", text = text }
 end
 
--- The parameters and results of a function type, `fun(a: T, b?: U): V`; nil for any other type.
+-- Returns the parameters and results of a function type, `fun(a: T, b?: U): V`; nil for any other type.
 function annotations.signature(type)
   local list, result = type:match("^fun(%b()):?%s*(.*)$")
   if not list then return nil end
@@ -53,7 +52,7 @@ function annotations.signature(type)
   return params, result ~= "" and { { type = result } } or {}
 end
 
--- What stands behind each tag: its value, and where the text of following lines goes.
+-- What each tag adds to its block.
 local tags = {
   class = function(block, rest) block.class = { kind = "class", name = rest, fields = {}, text = block.text } end,
   alias = function(block, rest)
@@ -97,11 +96,12 @@ local function functionItem(block, owner, separator, name)
     returns = block.returns, overloads = block.overloads, text = block.text }
 end
 
--- Adds what a block of comments and the line of code below it say.
+-- Adds the items of a block of comments and the line of code below it.
 local function finish(items, block, line)
   if block.alias then items[#items + 1] = block.alias end
   local owner, separator, name = line:match("^function ([%w_.]+)([.:])([%w_]+)%(")
   local value = line:match("^([%w_.]+) = {}$")
+  assert(not (block.alias and owner), "editors show the description with the alias, not with the function: " .. line)
   assert(owner or value or line == "", "not understood: " .. line)
   if owner then
     items[#items + 1] = functionItem(block, owner, separator, name)
@@ -114,7 +114,7 @@ local function finish(items, block, line)
   end
 end
 
--- The items of an annotation file in their order. By kind:
+-- Returns the items of an annotation file in their order. By kind:
 --   heading    level, title, text: a comment that begins with one to three #, up to the next blank line
 --   class      name, text, fields {name, type, text}; value: the table that is declared with it, if any
 --   alias      name, type, text
@@ -151,12 +151,12 @@ end
 
 local function member(field)
   local params, returns = annotations.signature(field.type)
-  if params then return { kind = "function", params = params, returns = returns } end
-  return { kind = "constant", type = field.type }
+  if params then return { kind = "function", params = params, returns = returns, text = field.text } end
+  return { kind = "constant", type = field.type, text = field.text }
 end
 
--- The global tables that the items describe, by name: {kind = "table", fields}, {kind = "function", params, returns}
--- and {kind = "constant", type}. Classes that stand for no table are not among them.
+-- Returns the global tables that the items describe, by name: {kind = "table", fields}, {kind = "function", params,
+-- returns, text} and {kind = "constant", type, text}. Classes without a table are left out.
 function annotations.globals(items)
   local globals, values = {}, {}
   for _, item in ipairs(items) do

@@ -1,5 +1,5 @@
--- What luacheck has to know of the annotated globals: for each annotation file a table for its `stds`. The folder of
--- this file is where the others are looked for. In a .luacheckrc:
+-- Describes the annotated globals to luacheck: returns a table for its `stds` for each annotation file. The files are
+-- looked for in the folder of this file. In a .luacheckrc:
 --
 --   stds.velora = dofile("types/luacheck.lua").velora
 --   std = "lua53+velora"
@@ -9,7 +9,7 @@ local annotations = dofile(folder .. "annotations.lua")
 local function define(fields)
   local definition = {}
   for name, member in pairs(fields) do
-    -- A string has methods, so anything may be read of a constant.
+    -- Any field may be read of a constant, since strings have methods.
     definition[name] = member.fields and { fields = define(member.fields) } or { other_fields = true }
   end
   return definition

@@ -1,378 +1,439 @@
 ---@meta _
 
 -- # The table velora
--- Everything that scripts see of the SDK lies in one global table, `velora`. Rules that hold throughout:
+-- Scripts reach the SDK through one global table, `velora`. These rules apply throughout:
 --
--- - Functions return at once. What takes longer is answered by a callback, on a later frame; "answered by LoginDone"
---   means the callback set with `setOnLoginDone`.
--- - A call with wrong arguments does nothing and gives nil. Few raise an error instead; where one does, it is said.
---   Arguments beyond those listed are ignored. Any function raises an error where a list that it is given is longer than
---   1,048,576 elements.
--- - A text is a string, or a number, which is taken as its string. It ends before its first zero byte.
--- - An integer has to be one for Lua: 3 is one, 3.0 and "3" are not. The SDK gets its low 32 bits, with sign. Setters of
---   objects are not so strict, see below.
--- - What can be nil though all arguments are right is marked `?`: a result that the SDK does not have, an object or
---   bytes that an event came without. In a list of objects an element can be missing where the SDK gave an empty one;
---   `ipairs` ends there.
--- - Tables come as copies, but for that of `getSyncDownloadHandler`: changing one changes nothing but that table.
+-- - Functions return at once. Results that take longer arrive as events, on a later frame: "The result arrives as
+--   LoginDone" means that the callback set with `setOnLoginDone` is called.
+-- - A call with wrong arguments does nothing and returns nil. A few functions raise an error instead; their
+--   descriptions say so. Arguments beyond those listed are ignored. Every function raises an error if a list argument
+--   is longer than 1,048,576 elements.
+-- - A parameter of type `Text` takes a string, or a number, which is converted to a string. The SDK receives it up to
+--   its first zero byte.
+-- - A parameter of type integer takes only Lua integers: 3, but not 3.0 or "3". The SDK receives the low 32 bits, with
+--   sign. Setters of objects are less strict, see below.
+-- - A type is marked `?` if the value can be nil although all arguments are right: a result that the SDK does not have,
+--   an object or data that an event does not carry. If the SDK puts an empty object into a list, that element is
+--   missing, and `ipairs` ends there.
+-- - Tables are copies, except that of `getSyncDownloadHandler`: changing one changes nothing else.
+-- - "Defined by the SDK" and similar words mark what only the SDK's own documentation tells. "Offline" marks what holds
+--   for the offline runtime of `velora-play`, and need not hold for the SDK.
 --
--- Objects of the seven classes have methods, as `order:get_orderId()`; `tostring` gives a readable form of all but
--- PadEvent, and raises an error where the SDK has none. A setter takes what it can use: a value that is no text is stored
--- as the empty string, one that does not convert to the field's kind of number as 0 (3.0 and "3" do, 2.5 is no integer),
--- and of any value as a boolean its truth counts. A setter of a map or list leaves out elements that it cannot use, but
--- stores 0 for a value of an integer map, and raises an error where the value is no table; `set_arrPriceLocaleId` does it
--- the other way about: it does nothing for what is no table, and raises an error for an element without text.
+-- Objects of the seven classes have methods, as in `order:get_orderId()`. `tostring` returns a readable form of all
+-- except PadEvent, and raises an error if the SDK has none. Descriptions of fields follow the fields' names; the SDK
+-- defines what it stores there.
+--
+-- A setter converts its value to the field's type. A string field stores the empty string for anything but a string or
+-- number. A number field stores 0 for anything that does not convert (3.0 and "3" convert to an integer, 2.5 does not).
+-- A boolean field takes any value: nil and false are false, all others true. A setter of a map or list raises an error
+-- if the value is not a table and leaves out elements that it cannot convert, but stores 0 for such a value of an
+-- integer map. `set_arrPriceLocaleId` is the reverse: it ignores a value that is not a table, and raises an error for
+-- an element that is neither a string nor a number.
 
 -- ## The table
 
----A text: a string, or a number, which is taken as its string.
+---A string, or a number, which is converted to a string.
 ---@alias velora.Text string|number
 
 ---The SDK, as scripts see it.
 ---@class velora
 velora = {}
 
----Empty; kept for what may come.
+---Empty; reserved for later use.
 velora.utils = {}
 
 -- ## Setting callbacks
--- An event has one callback. `setOn…` puts a function in charge of it, in place of the one before, and leaves all as it
--- is when given anything else; `getOn…` gives that function, or nil. An error in a callback is logged, and the next
--- event comes as ever.
+-- An event has one callback. `setOn…` sets it, in place of the one before, and changes nothing if its argument is not a
+-- function. `getOn…` returns it, or nil. An error in a callback is logged, and the next event is delivered as usual.
 
 -- # Start and login
--- Starting the SDK, logging in and out, the account, the views around it, and leaving the game.
+-- Starting the SDK, logging in and out, the account and its views, leaving the game.
 
 -- ## Starting
 
----Starts the SDK; answered by FinishInit.
+---Starts the SDK. The result arrives as FinishInit.
 function velora.zvInit() end
 
----Whether the SDK has started.
+---Returns whether the SDK has started.
 ---@return boolean
 function velora.isInit() end
 
----The start has come to its end. `code` is one of `FINISH_INIT_*`.
 ---@alias velora.OnFinishInit fun(code: integer)
+
+---Sets the callback of FinishInit, which comes when the start of the SDK has ended. It receives `code`, one of
+---`FINISH_INIT_*`.
 ---@param callback velora.OnFinishInit
 function velora.setOnFinishInit(callback) end
+
+---Returns the callback of FinishInit; nil if none is set.
 ---@return velora.OnFinishInit? callback
 function velora.getOnFinishInit() end
 
----The SDK's start-up, with its splash screen, is done.
 ---@alias velora.OnStartupDone fun()
+
+---Sets the callback of StartupDone, which comes when the SDK's start-up, with its splash screen, has ended. It receives
+---nothing.
 ---@param callback velora.OnStartupDone
 function velora.setOnStartupDone(callback) end
+
+---Returns the callback of StartupDone; nil if none is set.
 ---@return velora.OnStartupDone? callback
 function velora.getOnStartupDone() end
 
----The player has tapped the splash screen.
 ---@alias velora.OnStartupClickSplash fun()
+
+---Sets the callback of StartupClickSplash, which comes when the player taps the splash screen. It receives nothing.
 ---@param callback velora.OnStartupClickSplash
 function velora.setOnStartupClickSplash(callback) end
+
+---Returns the callback of StartupClickSplash; nil if none is set.
 ---@return velora.OnStartupClickSplash? callback
 function velora.getOnStartupClickSplash() end
 
 -- ### Codes of FinishInit
--- What `code` of the callback FinishInit can be.
+-- The values of `code` in FinishInit. Their meanings follow their names; the SDK decides when it sends each.
 
 ---@class velora
----@field FINISH_INIT_OK 0
----@field FINISH_INIT_FAILED 1
----@field FINISH_INIT_MISSED 3
----@field FINISH_INIT_NEED_UPDATE_PACKAGE 4
+---@field FINISH_INIT_OK 0 The SDK has started.
+---@field FINISH_INIT_FAILED 1 The start has failed.
+---@field FINISH_INIT_MISSED 3 The start was missed; the SDK defines when.
+---@field FINISH_INIT_NEED_UPDATE_PACKAGE 4 The game's package must be updated first.
 
 -- ## Login
 
----Logs the player in; answered by LoginDone.
+---Logs the player in. The result arrives as LoginDone.
 function velora.zvLogin() end
 
----Logs the player out; answered by LogoutDone.
+---Logs the player out. The result arrives as LogoutDone.
 function velora.zvLogout() end
 
----Lets the player log in as somebody else; answered by LoginDone.
+---Lets the player log in with another account. The result arrives as LoginDone.
 function velora.zvSwitchAccount() end
 
----Whether a player is logged in.
+---Returns whether a player is logged in.
 ---@return boolean
 function velora.hasLogin() end
 
----Tells the SDK that the game's own login has succeeded.
+---Tells the SDK that the game's own login has succeeded. The offline runtime only records the call.
 function velora.zvGameLoginSuccess() end
 
----The name of the way in which the player has logged in; compare `ZV_AUTH_NAME_*`.
+---Returns the name of the player's login channel, to compare with `ZV_AUTH_NAME_*`; nil if the SDK has none.
 ---@return string?
 function velora.getAuthTypeName() end
 
----A login, a change of account or the binding of a guest account has ended. `code` is one of `LOGIN_DONE_*`.
 ---@alias velora.OnLoginDone fun(code: integer)
+
+---Sets the callback of LoginDone, which comes when a login, a change of account or the binding of a guest account has
+---ended. It receives `code`, one of `LOGIN_DONE_*`.
 ---@param callback velora.OnLoginDone
 function velora.setOnLoginDone(callback) end
+
+---Returns the callback of LoginDone; nil if none is set.
 ---@return velora.OnLoginDone? callback
 function velora.getOnLoginDone() end
 
----A logout has ended. `code` is one of `LOGOUT_DONE_*`.
 ---@alias velora.OnLogoutDone fun(code: integer)
+
+---Sets the callback of LogoutDone, which comes when a logout has ended. It receives `code`, one of `LOGOUT_DONE_*`.
 ---@param callback velora.OnLogoutDone
 function velora.setOnLogoutDone(callback) end
+
+---Returns the callback of LogoutDone; nil if none is set.
 ---@return velora.OnLogoutDone? callback
 function velora.getOnLogoutDone() end
 
----A new account has been registered.
 ---@alias velora.OnRegister fun()
+
+---Sets the callback of Register, which comes when a new account has been registered. It receives nothing.
 ---@param callback velora.OnRegister
 function velora.setOnRegister(callback) end
+
+---Returns the callback of Register; nil if none is set.
 ---@return velora.OnRegister? callback
 function velora.getOnRegister() end
 
 -- ### Codes of LoginDone
--- What `code` of the callback LoginDone can be.
+-- The values of `code` in LoginDone. Their meanings follow their names; the SDK decides when it sends each.
 
 ---@class velora
----@field LOGIN_DONE_OK 0
----@field LOGIN_DONE_CANCEL 1
----@field LOGIN_DONE_WRONG_PASSWD 2
----@field LOGIN_DONE_NET_UNAVAILABLE 3
----@field LOGIN_DONE_SDK_SERV_ERR 4
----@field LOGIN_DONE_NET_TIME_OUT 5
----@field LOGIN_DONE_SDK_NOT_INIT 6
----@field LOGIN_DONE_UNKNOWN_ERR 10
----@field LOGIN_DONE_NEED_GS_CONFIRM 11
----@field LOGIN_DONE_NEED_RELOGIN 12
----@field LOGIN_DONE_BIND_OK 13
----@field LOGIN_DONE_GREEN 14
----@field LOGIN_DONE_VELORA_BIND_OK 130
----@field LOGIN_DONE_VELORA_BIND_FAIL -130
+---@field LOGIN_DONE_OK 0 The player is logged in.
+---@field LOGIN_DONE_CANCEL 1 The login was cancelled.
+---@field LOGIN_DONE_WRONG_PASSWD 2 The password was wrong.
+---@field LOGIN_DONE_NET_UNAVAILABLE 3 There is no network.
+---@field LOGIN_DONE_SDK_SERV_ERR 4 The SDK's server reported an error.
+---@field LOGIN_DONE_NET_TIME_OUT 5 The network did not reply in time.
+---@field LOGIN_DONE_SDK_NOT_INIT 6 The SDK has not been started.
+---@field LOGIN_DONE_UNKNOWN_ERR 10 The login failed for an unknown reason.
+---@field LOGIN_DONE_NEED_GS_CONFIRM 11 The game server must confirm the login.
+---@field LOGIN_DONE_NEED_RELOGIN 12 The player must log in again.
+---@field LOGIN_DONE_BIND_OK 13 The account has been bound.
+---@field LOGIN_DONE_GREEN 14 A result that the SDK calls green; it defines when.
+---@field LOGIN_DONE_VELORA_BIND_OK 130 The guest account has been bound; offline, the success of `zvGuestBind`.
+---@field LOGIN_DONE_VELORA_BIND_FAIL -130 The guest account could not be bound; offline, the failure of `zvGuestBind`.
 
 -- ### Codes of LogoutDone
--- What `code` of the callback LogoutDone can be.
+-- The values of `code` in LogoutDone. Their meanings follow their names; the SDK decides when it sends each.
 
 ---@class velora
----@field LOGOUT_DONE_OK 0
----@field LOGOUT_DONE_FAILED 1
----@field LOGOUT_DONE_NOLOGIN 2
----@field LOGOUT_DONE_NEED_RELOGIN 3
+---@field LOGOUT_DONE_OK 0 The player is logged out.
+---@field LOGOUT_DONE_FAILED 1 The logout has failed.
+---@field LOGOUT_DONE_NOLOGIN 2 No player was logged in.
+---@field LOGOUT_DONE_NEED_RELOGIN 3 The player must log in again.
 
 -- ### Login state codes
 -- Integers: values of the property `LOGIN_STAT`.
 
 ---@class velora
----@field E_LS_NOT_LOGIN integer
----@field E_LS_LOGIN_OK integer
----@field E_LS_NEED_GS_CONFIRM integer
+---@field E_LS_NOT_LOGIN integer Value of `LOGIN_STAT`: not logged in. The value is the SDK's.
+---@field E_LS_LOGIN_OK integer Value of `LOGIN_STAT`: logged in. The value is the SDK's.
+---@field E_LS_NEED_GS_CONFIRM integer Value of `LOGIN_STAT`: the game server must confirm. The value is the SDK's.
 
 -- ### Login channel codes
--- Integers that stand for the ways to log in.
+-- Integers: codes of the login channels.
 
 ---@class velora
----@field AUTH_UNLOGIN integer
----@field AUTH_NATIVE integer
----@field AUTH_GUEST integer
----@field AUTH_WEIBO integer
----@field AUTH_FACEBOOK integer
----@field AUTH_GOOGLE integer
----@field AUTH_MOBILE integer
----@field AUTH_QQ integer
----@field AUTH_WEIXIN integer
----@field AUTH_DUOKU integer
----@field AUTH_91 integer
----@field AUTH_BEETALK integer
----@field AUTH_KAKAO integer
----@field AUTH_TWITTER integer
----@field AUTH_DMM integer
----@field AUTH_STEAM integer
----@field AUTH_AMAZONE integer
----@field AUTH_LINE integer
----@field AUTH_LINE_GAME integer
----@field AUTH_BATTLE integer
----@field AUTH_PELIA integer
----@field AUTH_PSN integer
----@field AUTH_XIANLIAO integer
----@field AUTH_NINTENDO integer
----@field AUTH_DOUYIN integer
----@field AUTH_MOBILE_NOT_ZORVANE integer
----@field AUTH_APPLE integer
----@field AUTH_MOWANG integer
+---@field AUTH_UNLOGIN integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_NATIVE integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_GUEST integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_WEIBO integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_FACEBOOK integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_GOOGLE integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_MOBILE integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_QQ integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_WEIXIN integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_DUOKU integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_91 integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_BEETALK integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_KAKAO integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_TWITTER integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_DMM integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_STEAM integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_AMAZONE integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_LINE integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_LINE_GAME integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_BATTLE integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_PELIA integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_PSN integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_XIANLIAO integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_NINTENDO integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_DOUYIN integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_MOBILE_NOT_ZORVANE integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_APPLE integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_MOWANG integer Login channel code. Value and meaning are the SDK's.
 
 -- ### Login channel names
--- Strings that name the ways to log in, to compare with `getAuthTypeName`.
+-- Strings: names of the login channels, to compare with `getAuthTypeName`.
 
 ---@class velora
----@field ZV_AUTH_NAME_UNLOGIN string
----@field ZV_AUTH_NAME_NATIVE string
----@field ZV_AUTH_NAME_GUEST string
----@field ZV_AUTH_NAME_WEIBO string
----@field ZV_AUTH_NAME_FACEBOOK string
----@field ZV_AUTH_NAME_GameCenter string
----@field ZV_AUTH_NAME_WECHAT string
----@field ZV_AUTH_NAME_GARENA string
----@field ZV_AUTH_NAME_BEETALK string
----@field ZV_AUTH_NAME_QQ string
----@field ZV_AUTH_NAME_GOOGLE string
----@field ZV_AUTH_NAME_JOYBOMB string
----@field ZV_AUTH_NAME_MOBILE string
----@field ZV_AUTH_NAME_DUOKU string
----@field ZV_AUTH_NAME_91 string
----@field ZV_AUTH_NAME_KAKAO string
----@field ZV_AUTH_NAME_TWITTER string
----@field ZV_AUTH_NAME_DMM string
----@field ZV_AUTH_NAME_STEAM string
----@field ZV_AUTH_NAME_AMAZON string
----@field ZV_AUTH_NAME_LINE string
----@field ZV_AUTH_NAME_LINE_GMAE string
----@field ZV_AUTH_NAME_BATTLE string
----@field ZV_AUTH_NAME_PELIA string
----@field ZV_AUTH_NAME_PSN string
----@field ZV_AUTH_NAME_XIANLIAO string
----@field ZV_AUTH_NAME_NINTENDO string
----@field ZV_AUTH_NAME_DOUYIN string
----@field ZV_AUTH_NAME_MOBILE_NOT_ZORVANE string
----@field ZV_AUTH_NAME_APPLE string
----@field ZV_AUTH_NAME_MOWANG string
+---@field ZV_AUTH_NAME_UNLOGIN string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_NATIVE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_GUEST string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_WEIBO string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_FACEBOOK string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_GameCenter string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_WECHAT string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_GARENA string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_BEETALK string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_QQ string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_GOOGLE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_JOYBOMB string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_MOBILE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_DUOKU string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_91 string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_KAKAO string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_TWITTER string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_DMM string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_STEAM string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_AMAZON string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_LINE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_LINE_GMAE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_BATTLE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_PELIA string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_PSN string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_XIANLIAO string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_NINTENDO string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_DOUYIN string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_MOBILE_NOT_ZORVANE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_APPLE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_MOWANG string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
 
 -- ## Account
 
----Binds the guest account in use to a real one; answered by LoginDone, with a code for the binding:
+---Binds the current guest account to a full account. The result arrives as LoginDone, with a code for the binding:
 ---`LOGIN_DONE_BIND_OK`, `LOGIN_DONE_VELORA_BIND_OK` or `LOGIN_DONE_VELORA_BIND_FAIL`.
 function velora.zvGuestBind() end
 
----Whether the account is bound to what `name` names.
----@param name velora.Text
+---Returns whether the account is bound. Offline it is, whatever the name, after `zvGuestBind` has succeeded.
+---@param name velora.Text what it may be bound to; the SDK defines the names
 ---@return boolean
 function velora.isBinded(name) end
 
----Opens the SDK's account manager; CloseManagerView tells when it closes.
+---Opens the SDK's account manager. CloseManagerView comes when it closes; offline it closes at once.
 function velora.zvOpenManager() end
 
----The account manager has been closed.
 ---@alias velora.OnCloseManagerView fun()
+
+---Sets the callback of CloseManagerView, which comes when the account manager has been closed. It receives nothing.
 ---@param callback velora.OnCloseManagerView
 function velora.setOnCloseManagerView(callback) end
+
+---Returns the callback of CloseManagerView; nil if none is set.
 ---@return velora.OnCloseManagerView? callback
 function velora.getOnCloseManagerView() end
 
----Hands a key and its value to the SDK's JF sign-on data.
+---Passes a key and its value to the SDK's JF sign-on data. The offline runtime only records the call.
 ---@param key velora.Text
 ---@param value velora.Text
----@param flag boolean passed to the SDK as it is
+---@param flag boolean the SDK defines its meaning
 function velora.setJFSauthWithKey(key, value, flag) end
 
 -- ## Agreement, real name, mobile number
 
----Shows the user agreement; answered by ProtocolFinish.
----@param shown boolean passed to the SDK as it is
+---Shows the user agreement. The result arrives as ProtocolFinish.
+---@param shown boolean the SDK defines its meaning; offline, true leads to `PROTOCOL_FINISH_ACCEPT`, else `…_CONFIRM`
 function velora.zvShowCompactView(shown) end
 
----The user agreement has been answered. `code` is one of `PROTOCOL_FINISH_*`.
 ---@alias velora.OnProtocolFinish fun(code: integer)
+
+---Sets the callback of ProtocolFinish, which comes when the user agreement has been dealt with. It receives `code`, one
+---of `PROTOCOL_FINISH_*`.
 ---@param callback velora.OnProtocolFinish
 function velora.setOnProtocolFinish(callback) end
+
+---Returns the callback of ProtocolFinish; nil if none is set.
 ---@return velora.OnProtocolFinish? callback
 function velora.getOnProtocolFinish() end
 
----Opens the SDK's real-name registration.
+---Opens the SDK's real-name registration. The offline runtime only records the call.
 function velora.zvDoSdkRealNameRegister() end
 
----Hands a text to the SDK's anti-addiction service.
----@param text velora.Text
+---Passes a string to the SDK's anti-addiction service. The offline runtime only records the call.
+---@param text velora.Text the SDK defines its form
 function velora.zvAntiAddiction(text) end
 
----Has the player's mobile number verified; answered by VerifySuccess or VerifyFailure.
----@param number integer passed to the SDK as it is
+---Verifies the player's mobile number. The result arrives as VerifySuccess or VerifyFailure.
+---@param number integer the SDK defines its meaning; offline, the event's `text` is this number
 function velora.zvVerifyMobile(number) end
 
----The mobile number has been verified.
 ---@alias velora.OnVerifySuccess fun(code: integer, text: string)
+
+---Sets the callback of VerifySuccess, which comes when the mobile number has been verified. It receives `code` and
+---`text`, which the SDK defines; offline, `code` is 0 and `text` the number given to `zvVerifyMobile`.
 ---@param callback velora.OnVerifySuccess
 function velora.setOnVerifySuccess(callback) end
+
+---Returns the callback of VerifySuccess; nil if none is set.
 ---@return velora.OnVerifySuccess? callback
 function velora.getOnVerifySuccess() end
 
----The mobile number has not been verified; `code` and `text` say why.
 ---@alias velora.OnVerifyFailure fun(code: integer, text: string)
+
+---Sets the callback of VerifyFailure, which comes when the mobile number could not be verified. It receives `code` and
+---`text`, which the SDK defines; offline, `text` is the number given to `zvVerifyMobile`.
 ---@param callback velora.OnVerifyFailure
 function velora.setOnVerifyFailure(callback) end
+
+---Returns the callback of VerifyFailure; nil if none is set.
 ---@return velora.OnVerifyFailure? callback
 function velora.getOnVerifyFailure() end
 
 -- ### Codes of ProtocolFinish
--- What `code` of the callback ProtocolFinish can be.
+-- The values of `code` in ProtocolFinish. Their meanings follow their names; the SDK decides when it sends each.
 
 ---@class velora
----@field PROTOCOL_FINISH_CONFIRM 0
----@field PROTOCOL_FINISH_ACCEPT 1
----@field PROTOCOL_FINISH_REJECT 2
----@field PROTOCOL_FINISH_NOT_NEED_SHOW 3
+---@field PROTOCOL_FINISH_CONFIRM 0 The agreement was confirmed.
+---@field PROTOCOL_FINISH_ACCEPT 1 The agreement was accepted.
+---@field PROTOCOL_FINISH_REJECT 2 The agreement was rejected.
+---@field PROTOCOL_FINISH_NOT_NEED_SHOW 3 The agreement need not be shown.
 
 -- ## Notices
 
----Asks for the notice of the start-up; answered by StartupGetNoticeMsgDone.
----@param flag boolean passed to the SDK as it is
+---Requests the notice that is shown at the start. It arrives as StartupGetNoticeMsgDone.
+---@param flag boolean the SDK defines its meaning
 function velora.zvGetNotice(flag) end
 
----Asks for the announcement; answered by StartupGetNoticeMsgDone.
+---Requests the announcement. It arrives as StartupGetNoticeMsgDone.
 function velora.zvGetAnnouncementInfo() end
 
----The notice or announcement asked for is here.
 ---@alias velora.OnStartupGetNoticeMsgDone fun(text: string)
+
+---Sets the callback of StartupGetNoticeMsgDone, which comes with a notice or announcement. It receives `text`, in a
+---form that the SDK defines.
 ---@param callback velora.OnStartupGetNoticeMsgDone
 function velora.setOnStartupGetNoticeMsgDone(callback) end
+
+---Returns the callback of StartupGetNoticeMsgDone; nil if none is set.
 ---@return velora.OnStartupGetNoticeMsgDone? callback
 function velora.getOnStartupGetNoticeMsgDone() end
 
 -- ## Pausing and leaving
 
----Opens the SDK's pause view; ClosePauseView and ContinueGame tell when it closes.
+---Opens the SDK's pause view. ClosePauseView and ContinueGame come when it closes; offline it closes at once.
 function velora.zvOpenPauseView() end
 
----The pause view has been closed.
 ---@alias velora.OnClosePauseView fun()
+
+---Sets the callback of ClosePauseView, which comes when the pause view has been closed. It receives nothing.
 ---@param callback velora.OnClosePauseView
 function velora.setOnClosePauseView(callback) end
+
+---Returns the callback of ClosePauseView; nil if none is set.
 ---@return velora.OnClosePauseView? callback
 function velora.getOnClosePauseView() end
 
----The game is to go on after a pause.
 ---@alias velora.OnContinueGame fun()
+
+---Sets the callback of ContinueGame, which comes when the game is to go on after a pause. It receives nothing.
 ---@param callback velora.OnContinueGame
 function velora.setOnContinueGame(callback) end
+
+---Returns the callback of ContinueGame; nil if none is set.
 ---@return velora.OnContinueGame? callback
 function velora.getOnContinueGame() end
 
----Asks the player whether to leave; answered by ExitApp, or by ExitOpenExitViewFailed where there is no such view.
+---Asks the player whether to leave the game. ExitApp comes if the player agrees, ExitOpenExitViewFailed if the SDK has
+---no view to ask with.
 function velora.zvOpenExitView() end
 
----Leaves the game through the SDK; answered by ExitApp.
+---Leaves the game through the SDK. ExitApp follows.
 function velora.exitApp() end
 
----The game is to end now.
 ---@alias velora.OnExitApp fun()
+
+---Sets the callback of ExitApp, which comes when the game is to end. It receives nothing.
 ---@param callback velora.OnExitApp
 function velora.setOnExitApp(callback) end
+
+---Returns the callback of ExitApp; nil if none is set.
 ---@return velora.OnExitApp? callback
 function velora.getOnExitApp() end
 
----The exit view could not be opened: the game has to ask for itself.
 ---@alias velora.OnExitOpenExitViewFailed fun()
+
+---Sets the callback of ExitOpenExitViewFailed, which comes when the exit view could not be opened, so that the game has
+---to ask the player itself. It receives nothing.
 ---@param callback velora.OnExitOpenExitViewFailed
 function velora.setOnExitOpenExitViewFailed(callback) end
+
+---Returns the callback of ExitOpenExitViewFailed; nil if none is set.
 ---@return velora.OnExitOpenExitViewFailed? callback
 function velora.getOnExitOpenExitViewFailed() end
 
 -- # Properties and commands
--- The SDK's settings by name, what it knows of the player, the channel and the device, and free-form commands.
+-- The SDK's settings by name, information about the player, the channel and the device, and commands.
 
 -- ## Properties
--- The names are texts; those that the SDK knows are among the SDK constants, as `velora.GAMEID`.
+-- Properties are named by strings. The names that the SDK knows are among the SDK constants, for example
+-- `velora.GAMEID`.
 
----Sets a text property.
+---Sets a string property.
 ---@param name velora.Text
 ---@param value velora.Text
 function velora.setPropStr(name, value) end
 
----The text property of that name.
+---Returns a string property; nil if the SDK has none of that name.
 ---@param name velora.Text
----@param second? any a text goes to the SDK as well (offline: the answer where nothing is set); all else is ignored
+---@param second? any a string or number is passed to the SDK (offline: returned if nothing is set); all else is ignored
 ---@return string?
 function velora.getPropStr(name, second) end
 
@@ -381,20 +442,22 @@ function velora.getPropStr(name, second) end
 ---@param value integer
 function velora.setPropInt(name, value) end
 
----The integer property of that name.
+---Returns an integer property.
 ---@param name velora.Text
----@param number integer goes to the SDK as well (offline: the answer where nothing is set)
+---@param number integer passed to the SDK, which defines its meaning (offline: returned if nothing is set)
 ---@return integer
 function velora.getPropInt(name, number) end
 
----Whether a feature is there, as `velora.hasFeature(velora.MODE_HAS_SHARE)`. False, not nil, for an argument that is no
----text.
+---Returns whether the SDK has a feature, as in `velora.hasFeature(velora.MODE_HAS_SHARE)`. Returns false, not nil, if
+---the argument is neither a string nor a number. Offline, a feature exists if the integer property of its name is set
+---and not 0.
 ---@param feature velora.Text
 ---@return boolean
 function velora.hasFeature(feature) end
 
----Sets an option of the SDK. The SDK expects a value of the form that the option's name asks for: give an integer where
----it takes one, a text or a boolean where it takes that. Another value raises an error.
+---Sets an option of the SDK. The option's name decides which type of value the SDK reads, and nothing checks it: pass
+---an integer, a string or a boolean accordingly. Raises an error for a value of any other type. Offline, names that
+---begin with the word `int` or `bool` take that type and all others a string.
 ---@param name velora.Text
 ---@param value integer|velora.Text|boolean
 function velora.zvLumoSetOption(name, value) end
@@ -403,196 +466,203 @@ function velora.zvLumoSetOption(name, value) end
 -- Strings: names of features, for `hasFeature`, and of the properties that switch them.
 
 ---@class velora
----@field MODE_NO_LOGIN string
----@field MODE_HAS_LOGOUT string
----@field MODE_HAS_MANAGER string
----@field MODE_HAS_PAUSE_VIEW string
----@field MODE_NEED_UNITED_LOGIN string
----@field MODE_EXIT_VIEW string
----@field MODE_HAS_GUEST string
----@field MODE_HAS_GUEST_BIND string
----@field MODE_HAS_NATIVE_GUEST_LOGIN string
----@field MODE_HAS_FRIEND string
----@field MODE_HAS_RANK string
----@field MODE_HAS_SHARE string
----@field MODE_HAS_MOREGAME_BTN string
----@field MODE_HAS_SWITCH_ACCOUNT string
----@field MODE_HAS_NEARBY string
----@field MODE_HAS_QUERYSKUDETAILS string
----@field MODE_HAS_CONVERSATION string
----@field MODE_HAS_FAQS string
----@field MODE_HAS_ACHIEVEMENT string
----@field MODE_HAS_CC_RECORD string
----@field MODE_HAS_SWRVE string
----@field MODE_HAS_HELPSHIFT string
----@field MODE_HAS_GOOGLEGAMESERVICE string
----@field MODE_HAS_FEEDBACK string
----@field MODE_HAS_SHOWVIEW string
----@field MODE_HAS_ANNOUNCEMENT string
----@field MODE_HAS_VERIFYMOBILE string
----@field MODE_HAS_QUERYORDER string
----@field MODE_REAL_NAME string
----@field MODE_QR_CODE string
+---@field MODE_NO_LOGIN string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_LOGOUT string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_MANAGER string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_PAUSE_VIEW string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_NEED_UNITED_LOGIN string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_EXIT_VIEW string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_GUEST string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_GUEST_BIND string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_NATIVE_GUEST_LOGIN string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_FRIEND string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_RANK string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_SHARE string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_MOREGAME_BTN string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_SWITCH_ACCOUNT string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_NEARBY string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_QUERYSKUDETAILS string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_CONVERSATION string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_FAQS string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_ACHIEVEMENT string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_CC_RECORD string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_SWRVE string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_HELPSHIFT string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_GOOGLEGAMESERVICE string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_FEEDBACK string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_SHOWVIEW string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_ANNOUNCEMENT string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_VERIFYMOBILE string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_HAS_QUERYORDER string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_REAL_NAME string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_QR_CODE string Feature name, for `hasFeature`. Value and meaning are the SDK's.
 
 -- ## Player information
 
----Stores what the game knows of the player, under a key, for the SDK.
----@param key velora.Text one of `USERINFO_*`, but for `USERINFO_STAGE_*`, which are values
+---Stores a piece of player information for the SDK.
+---@param key velora.Text one of `USERINFO_*`, except `USERINFO_STAGE_*`, which are values
 ---@param value velora.Text
 function velora.setUserInfo(key, value) end
 
----What is stored under a key.
----@param key velora.Text one of `USERINFO_*`, but for `USERINFO_STAGE_*`, which are values
+---Returns a piece of player information; nil if the SDK has none under that key.
+---@param key velora.Text one of `USERINFO_*`, except `USERINFO_STAGE_*`, which are values
 ---@return string?
 function velora.getUserInfo(key) end
 
----Sends the player information to the SDK's server; `USERINFO_STAGE` says at which moment.
+---Sends the player information to the SDK's server. Its key `USERINFO_STAGE` tells at which moment of the game. The
+---offline runtime only records the call.
 function velora.zvUpLoadUserInfo() end
 
 -- ### Player information, first set
 -- Strings: keys of the player information. The `USERINFO_STAGE_*` are values of `USERINFO_STAGE`.
 
 ---@class velora
----@field USERINFO_STAGE string
----@field USERINFO_STAGE_CREATE_ROLE string
----@field USERINFO_STAGE_ENTER_SERVER string
----@field USERINFO_STAGE_LEVEL_UP string
----@field USERINFO_STAGE_FF_SUCESS string
----@field USERINFO_STAGE_LEAVE_SERVER string
----@field USERINFO_STAGE_ENTER_MAIN string
----@field USERINFO_STAGE_CHOOSE_SERVER string
----@field USERINFO_UID string
----@field USERINFO_NAME string
----@field USERINFO_AID string
----@field USERINFO_GRADE string
----@field USERINFO_HOSTID string
----@field USERINFO_HOSTNAME string
----@field USERINFO_BALANCE string
----@field USERINFO_BALANCE_ARRAY string
----@field USERINFO_VIP string
----@field USERINFO_EXP string
----@field USERINFO_ROLE_TYPE_ID string
----@field USERINFO_ROLE_TYPE_NAME string
----@field USERINFO_MENPAI_ID string
----@field USERINFO_MENPAI_NAME string
----@field USERINFO_MENPAI_ROLE_ID string
----@field USERINFO_MENPAI_ROLE_NAME string
----@field USERINFO_CAPABILITY string
----@field USERINFO_GANG_ID string
----@field USERINFO_GANG_NAME string
----@field USERINFO_GANG_ROLE_ID string
----@field USERINFO_GANG_ROLE_NAME string
----@field USERINFO_RANKING string
----@field USERINFO_ORG string
----@field USERINFO_REGION_ID string
----@field USERINFO_REGION_NAME string
----@field USERINFO_ROLE_CTIME string
----@field USERINFO_FRIEND string
----@field USERINFO_ROLE_LEVELMTIME string
+---@field USERINFO_STAGE string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_STAGE_CREATE_ROLE string Value of `USERINFO_STAGE`. Value and meaning are the SDK's.
+---@field USERINFO_STAGE_ENTER_SERVER string Value of `USERINFO_STAGE`. Value and meaning are the SDK's.
+---@field USERINFO_STAGE_LEVEL_UP string Value of `USERINFO_STAGE`. Value and meaning are the SDK's.
+---@field USERINFO_STAGE_FF_SUCESS string Value of `USERINFO_STAGE`. Value and meaning are the SDK's.
+---@field USERINFO_STAGE_LEAVE_SERVER string Value of `USERINFO_STAGE`. Value and meaning are the SDK's.
+---@field USERINFO_STAGE_ENTER_MAIN string Value of `USERINFO_STAGE`. Value and meaning are the SDK's.
+---@field USERINFO_STAGE_CHOOSE_SERVER string Value of `USERINFO_STAGE`. Value and meaning are the SDK's.
+---@field USERINFO_UID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_NAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_AID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_GRADE string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_HOSTID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_HOSTNAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_BALANCE string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_BALANCE_ARRAY string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_VIP string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_EXP string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_ROLE_TYPE_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_ROLE_TYPE_NAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_MENPAI_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_MENPAI_NAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_MENPAI_ROLE_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_MENPAI_ROLE_NAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_CAPABILITY string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_GANG_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_GANG_NAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_GANG_ROLE_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_GANG_ROLE_NAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_RANKING string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_ORG string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_REGION_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_REGION_NAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_ROLE_CTIME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_FRIEND string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_ROLE_LEVELMTIME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
 
 -- ### Player information, second set
 -- Strings: more keys of the player information.
 
 ---@class velora
----@field USERINFO_VIP_SCORE string
----@field USERINFO_RANK_LEVEL string
----@field USERINFO_RANK_EXP string
----@field USERINFO_RANK_LEVEL_2 string
----@field USERINFO_RANK_EXP_2 string
----@field USERINFO_GOLD_1 string
----@field USERINFO_GOLD_2 string
----@field USERINFO_CUP_COUNT_1 string
----@field USERINFO_CUP_COUNT_2 string
----@field USERINFO_TOTAL_KILL string
----@field USERINFO_TOTAL_HEAD string
----@field USERINFO_AVG_KD string
----@field USERINFO_MAX_KD string
----@field USERINFO_MAX_CK string
----@field USERINFO_MAIN_WEAPON_ID string
----@field USERINFO_VICE_WEAPON_ID string
----@field USERINFO_EXT_KEY string
----@field USERINFO_EXT_VALUE string
+---@field USERINFO_VIP_SCORE string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_RANK_LEVEL string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_RANK_EXP string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_RANK_LEVEL_2 string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_RANK_EXP_2 string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_GOLD_1 string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_GOLD_2 string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_CUP_COUNT_1 string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_CUP_COUNT_2 string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_TOTAL_KILL string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_TOTAL_HEAD string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_AVG_KD string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_MAX_KD string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_MAX_CK string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_MAIN_WEAPON_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_VICE_WEAPON_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_EXT_KEY string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_EXT_VALUE string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
 
 -- ## Channel and device
 
----The channel through which the game is distributed.
+---Returns the channel through which the game is distributed; nil if the SDK has none. Offline it is `offline`.
 ---@return string?
 function velora.getChannel() end
 
----The application channel.
+---Returns the application channel; nil if the SDK has none.
 ---@return string?
 function velora.getAppChannel() end
 
----The name of the platform that the game runs on.
+---Returns the name of the platform that the game runs on; nil if the SDK has none.
 ---@return string?
 function velora.getPlatform() end
 
----The SDK's id of this device.
+---Returns the SDK's id of this device; nil if the SDK has none.
 ---@return string?
 function velora.getUdid() end
 
----The channel that follows from the device's subscriber number (IMSI).
+---Returns the channel that the SDK derives from the device's subscriber number (IMSI); nil if there is none.
 ---@return string?
 function velora.getChannelByImsi() end
 
----The same in the SDK's extended form.
+---Returns the channel that the SDK derives from the device's subscriber number, in its extended form; nil if there is
+---none.
 ---@return string?
 function velora.getChannelByImsiEx() end
 
----The carrier that follows from the device's subscriber number; compare `CCTYPE_*`.
+---Returns the carrier that the SDK derives from the device's subscriber number, to compare with `CCTYPE_*`; nil if
+---there is none.
 ---@return string?
 function velora.getCCTypeByImsi() end
 
----A version of the SDK.
----@param text velora.Text which one; passed to the SDK as it is
+---Returns a version of the SDK; nil if the SDK has none of that name.
+---@param text velora.Text which version; the SDK defines the names, and offline any will do
 ---@return string?
 function velora.getSDKVersion(text) end
 
----Whether the platform of that name is at hand.
----@param name velora.Text
+---Returns whether the SDK has a platform.
+---@param name velora.Text the SDK defines the names; offline there is only `offline_platform`
 ---@return boolean
 function velora.zvHasPlatform(name) end
 
 -- ## Commands
 
----Gives the SDK an extension command; what it answers comes as ExtendFuncCall.
----@param command velora.Text
+---Sends an extension command to the SDK. Its reply arrives as ExtendFuncCall; offline the reply is the command.
+---@param command velora.Text the SDK defines the commands
 function velora.zvExtendFunc(command) end
 
----The SDK answers an extension command, or calls the game.
 ---@alias velora.OnExtendFuncCall fun(text: string)
+
+---Sets the callback of ExtendFuncCall, which comes when the SDK replies to an extension command or calls the game. It
+---receives `text`, in a form that the SDK defines; offline it is the command given to `zvExtendFunc`.
 ---@param callback velora.OnExtendFuncCall
 function velora.setOnExtendFuncCall(callback) end
+
+---Returns the callback of ExtendFuncCall; nil if none is set.
 ---@return velora.OnExtendFuncCall? callback
 function velora.getOnExtendFuncCall() end
 
----Gives the SDK a generic command.
----@param command velora.Text
+---Sends a generic command to the SDK. The offline runtime only records the call.
+---@param command velora.Text the SDK defines the commands
 function velora.zvvGenericFunctionCall(command) end
 
----Reports a success to the SDK.
----@param text velora.Text
+---Reports a success to the SDK. The offline runtime only records the call.
+---@param text velora.Text the SDK defines its form
 function velora.zvCallbackSuccess(text) end
 
----Reports a failure to the SDK.
----@param text velora.Text
+---Reports a failure to the SDK. The offline runtime only records the call.
+---@param text velora.Text the SDK defines its form
 function velora.zvCallbackFail(text) end
 
----Hands two texts to the SDK's update interface.
----@param first velora.Text
----@param second velora.Text
+---Passes two strings to the SDK's update interface. The offline runtime only records the call.
+---@param first velora.Text the SDK defines its meaning
+---@param second velora.Text the SDK defines its meaning
 function velora.zvUpdateApi(first, second) end
 
----Sets the command line that the SDK keeps; nil, no argument and an empty text clear it. Any other value, and a second
----argument after a text, raise an error.
+---Sets the command line that the SDK keeps; nil, no argument and an empty string clear it. Raises an error for any
+---other value, and for a second argument after a string.
 ---@param text? velora.Text
 function velora.setCmdLineParameter(text) end
 
----The command line that the SDK keeps; nil when there is none.
+---Returns the command line that the SDK keeps; nil if there is none.
 ---@return string?
 function velora.getCmdLineParameter() end
 
----Writes a text to the SDK's JF log.
+---Writes a string to the SDK's JF log. The offline runtime only records the call.
 ---@param text velora.Text
 function velora.zvJFLog(text) end
 
@@ -602,180 +672,195 @@ function velora.zvJFLog(text) end
 
 -- ## Orders and store items
 
----Asks the store about its items; answered by QuerySkuDetailsFinished. An id that is no text raises an error.
+---Asks the store for the details of items. They arrive as QuerySkuDetailsFinished. Raises an error if an id is neither
+---a string nor a number.
 ---@param itemType velora.Text one of `ITEM_TYPE_*`
 ---@param productIds velora.Text[]
 function velora.zvQuerySkuDetails(itemType, productIds) end
 
----Has an order checked, which is how a purchase begins; answered by OrderCheckDone.
----@param order velora.OrderInfo the SDK works on this very record
+---Has an order checked, which starts the purchase. The result arrives as OrderCheckDone.
+---@param order velora.OrderInfo the SDK works on this record, not on a copy
 function velora.zvCheckOrder(order) end
 
----Has an order consumed, once the player has the goods; answered by OrderCosumeDone.
+---Has an order consumed, once the player has the goods. The result arrives as OrderCosumeDone.
 ---@param order velora.OrderInfo
 function velora.zvConsume(order) end
 
----Has the SDK verify the order at hand.
+---Tells the SDK to verify an order; the SDK decides which. The offline runtime only records the call.
 function velora.zvVerifyOrder() end
 
----Prepares a payment.
+---Tells the SDK to prepare a payment. The offline runtime only records the call.
 function velora.zvPrePay() end
 
----Has the SDK query the store's inventory.
+---Tells the SDK to query the store's inventory. The offline runtime only records the call.
 function velora.zvQueryInventory() end
 
----The orders that are checked and not yet consumed; nil, not an empty table, when there are none.
+---Returns the orders that are checked and not yet consumed; nil, not an empty table, if there are none.
 ---@return velora.OrderInfo[]? orders
 function velora.zvGetCheckedOrders() end
 
----Takes an order off the list of checked orders.
+---Removes an order from the list of checked orders.
 ---@param orderId velora.Text
 function velora.zvRemoveCheckedOrders(orderId) end
 
----The FF channel of a product, as the payment side calls it.
+---Returns the FF channel of a product; nil if the SDK has none. Offline, registered products have one.
 ---@param productId velora.Text
 ---@return string?
 function velora.getFFChannelByPid(productId) end
 
----Hands a text to DRPF, one of the SDK's reports, and gives its code.
----@param text velora.Text
+---Passes a string to DRPF, one of the SDK's reports, and returns the SDK's code. Offline the code is 0.
+---@param text velora.Text the SDK defines its form
 ---@return integer
 function velora.DRPF(text) end
 
----The store has described its items.
 ---@alias velora.OnQuerySkuDetailsFinished fun(skus: velora.SkuDetailsInfo[])
+
+---Sets the callback of QuerySkuDetailsFinished, which comes with the store's items. It receives `skus`, a list of
+---`SkuDetailsInfo`; empty if there are none or if the query has failed.
 ---@param callback velora.OnQuerySkuDetailsFinished
 function velora.setOnQuerySkuDetailsFinished(callback) end
+
+---Returns the callback of QuerySkuDetailsFinished; nil if none is set.
 ---@return velora.OnQuerySkuDetailsFinished? callback
 function velora.getOnQuerySkuDetailsFinished() end
 
----An order has been checked; `get_orderStatus` says with what outcome.
 ---@alias velora.OnOrderCheckDone fun(order: velora.OrderInfo?)
+
+---Sets the callback of OrderCheckDone, which comes when an order has been checked. It receives `order`, whose
+---`get_orderStatus` tells the result, or nil if the SDK sends none.
 ---@param callback velora.OnOrderCheckDone
 function velora.setOnOrderCheckDone(callback) end
+
+---Returns the callback of OrderCheckDone; nil if none is set.
 ---@return velora.OnOrderCheckDone? callback
 function velora.getOnOrderCheckDone() end
 
----An order has been consumed; `get_orderStatus` says with what outcome. The event is spelt like this.
 ---@alias velora.OnOrderCosumeDone fun(order: velora.OrderInfo?)
+
+---Sets the callback of OrderCosumeDone, which comes when an order has been consumed; the event's name is spelt like
+---this. It receives `order`, whose `get_orderStatus` tells the result, or nil if the SDK sends none.
 ---@param callback velora.OnOrderCosumeDone
 function velora.setOnOrderCosumeDone(callback) end
+
+---Returns the callback of OrderCosumeDone; nil if none is set.
 ---@return velora.OnOrderCosumeDone? callback
 function velora.getOnOrderCosumeDone() end
 
 -- ### Store item types
--- Strings that name the kinds of store items.
+-- Strings: kinds of store items.
 
 ---@class velora
----@field ITEM_TYPE_CONSUMABLE string
----@field ITEM_TYPE_NON_CONSUMABLE string
----@field ITEM_TYPE_SUBSCRIPTION string
----@field ITEM_TYPE_AUTO_RECURRING_SUBSCRIPTIONS string
----@field ITEM_TYPE_ALL string
+---@field ITEM_TYPE_CONSUMABLE string For `zvQuerySkuDetails`. Value and meaning are the SDK's.
+---@field ITEM_TYPE_NON_CONSUMABLE string For `zvQuerySkuDetails`. Value and meaning are the SDK's.
+---@field ITEM_TYPE_SUBSCRIPTION string For `zvQuerySkuDetails`. Value and meaning are the SDK's.
+---@field ITEM_TYPE_AUTO_RECURRING_SUBSCRIPTIONS string For `zvQuerySkuDetails`. Value and meaning are the SDK's.
+---@field ITEM_TYPE_ALL string For `zvQuerySkuDetails`. Value and meaning are the SDK's.
 
 -- ## OrderInfo
 
----A payment order. The functions without an object, as `regProduct`, are the SDK's register of products.
+---A payment order. The functions that are not methods, such as `regProduct`, are the SDK's register of products.
 ---@class velora.OrderInfo
----@field get_aid fun(self: velora.OrderInfo): string?
----@field set_aid fun(self: velora.OrderInfo, value: velora.Text)
+---@field get_aid fun(self: velora.OrderInfo): string? Defined by the SDK.
+---@field set_aid fun(self: velora.OrderInfo, value: velora.Text) Defined by the SDK.
 ---@field get_count fun(self: velora.OrderInfo): integer How many of the product.
----@field set_count fun(self: velora.OrderInfo, value: integer)
+---@field set_count fun(self: velora.OrderInfo, value: integer) How many of the product.
 ---@field get_curOrderChannel fun(self: velora.OrderInfo): string? The channel that the order goes through now.
 ---@field get_externalChannelId fun(self: velora.OrderInfo): string? The id of an external channel.
----@field set_externalChannelId fun(self: velora.OrderInfo, value: velora.Text)
----@field get_ffChannel fun(self: velora.OrderInfo): string?
----@field get_jfCode fun(self: velora.OrderInfo): integer
----@field set_jfCode fun(self: velora.OrderInfo, value: integer)
----@field get_jfExtInfo fun(self: velora.OrderInfo): string?
----@field set_jfExtInfo fun(self: velora.OrderInfo, value: velora.Text)
+---@field set_externalChannelId fun(self: velora.OrderInfo, value: velora.Text) The id of an external channel.
+---@field get_ffChannel fun(self: velora.OrderInfo): string? Defined by the SDK.
+---@field get_jfCode fun(self: velora.OrderInfo): integer Defined by the SDK.
+---@field set_jfCode fun(self: velora.OrderInfo, value: integer) Defined by the SDK.
+---@field get_jfExtInfo fun(self: velora.OrderInfo): string? Defined by the SDK.
+---@field set_jfExtInfo fun(self: velora.OrderInfo, value: velora.Text) Defined by the SDK.
 ---@field get_extendJson fun(self: velora.OrderInfo): string? Further data as JSON.
----@field set_extendJson fun(self: velora.OrderInfo, value: velora.Text)
----@field get_jfAasFfCode fun(self: velora.OrderInfo): integer
----@field set_jfAasFfCode fun(self: velora.OrderInfo, value: integer)
----@field get_jfAasFfRule fun(self: velora.OrderInfo): string?
----@field set_jfAasFfRule fun(self: velora.OrderInfo, value: velora.Text)
----@field get_jfMessage fun(self: velora.OrderInfo): string?
----@field set_jfMessage fun(self: velora.OrderInfo, value: velora.Text)
----@field get_veloraJfExtCid fun(self: velora.OrderInfo): string?
----@field set_veloraJfExtCid fun(self: velora.OrderInfo, value: velora.Text)
----@field get_jfGas3Url fun(self: velora.OrderInfo): string?
----@field set_jfGas3Url fun(self: velora.OrderInfo, value: velora.Text)
----@field get_jfSubCode fun(self: velora.OrderInfo): integer
----@field set_jfSubCode fun(self: velora.OrderInfo, value: integer)
+---@field set_extendJson fun(self: velora.OrderInfo, value: velora.Text) Further data as JSON.
+---@field get_jfAasFfCode fun(self: velora.OrderInfo): integer Defined by the SDK.
+---@field set_jfAasFfCode fun(self: velora.OrderInfo, value: integer) Defined by the SDK.
+---@field get_jfAasFfRule fun(self: velora.OrderInfo): string? Defined by the SDK.
+---@field set_jfAasFfRule fun(self: velora.OrderInfo, value: velora.Text) Defined by the SDK.
+---@field get_jfMessage fun(self: velora.OrderInfo): string? Defined by the SDK.
+---@field set_jfMessage fun(self: velora.OrderInfo, value: velora.Text) Defined by the SDK.
+---@field get_veloraJfExtCid fun(self: velora.OrderInfo): string? Defined by the SDK.
+---@field set_veloraJfExtCid fun(self: velora.OrderInfo, value: velora.Text) Defined by the SDK.
+---@field get_jfGas3Url fun(self: velora.OrderInfo): string? Defined by the SDK.
+---@field set_jfGas3Url fun(self: velora.OrderInfo, value: velora.Text) Defined by the SDK.
+---@field get_jfSubCode fun(self: velora.OrderInfo): integer Defined by the SDK.
+---@field set_jfSubCode fun(self: velora.OrderInfo, value: integer) Defined by the SDK.
 ---@field get_orderChannel fun(self: velora.OrderInfo): string? The channel of the order.
----@field set_orderChannel fun(self: velora.OrderInfo, value: velora.Text)
+---@field set_orderChannel fun(self: velora.OrderInfo, value: velora.Text) The channel of the order.
 ---@field get_orderCurrency fun(self: velora.OrderInfo): string? The currency.
----@field set_orderCurrency fun(self: velora.OrderInfo, value: velora.Text)
+---@field set_orderCurrency fun(self: velora.OrderInfo, value: velora.Text) The currency.
 ---@field get_orderDesc fun(self: velora.OrderInfo): string? The description.
----@field set_orderDesc fun(self: velora.OrderInfo, value: velora.Text)
+---@field set_orderDesc fun(self: velora.OrderInfo, value: velora.Text) The description.
 ---@field get_orderErrReason fun(self: velora.OrderInfo): string? Why the order failed.
----@field set_orderErrReason fun(self: velora.OrderInfo, value: velora.Text)
----@field get_orderErrCode fun(self: velora.OrderInfo): string? The error code, a text.
----@field get_orderEtc fun(self: velora.OrderInfo): string?
----@field set_orderEtc fun(self: velora.OrderInfo, value: velora.Text)
+---@field set_orderErrReason fun(self: velora.OrderInfo, value: velora.Text) Why the order failed.
+---@field get_orderErrCode fun(self: velora.OrderInfo): string? The error code, a string.
+---@field get_orderEtc fun(self: velora.OrderInfo): string? Defined by the SDK.
+---@field set_orderEtc fun(self: velora.OrderInfo, value: velora.Text) Defined by the SDK.
 ---@field get_orderId fun(self: velora.OrderInfo): string? The order's id.
----@field set_orderId fun(self: velora.OrderInfo, value: velora.Text)
+---@field set_orderId fun(self: velora.OrderInfo, value: velora.Text) The order's id.
 ---@field get_orderStatus fun(self: velora.OrderInfo): integer One of `ORDER_*`.
----@field set_orderStatus fun(self: velora.OrderInfo, value: integer)
+---@field set_orderStatus fun(self: velora.OrderInfo, value: integer) One of `ORDER_*`.
 ---@field get_productCurrentPrice fun(self: velora.OrderInfo): number The price now, in single precision.
----@field set_productCurrentPrice fun(self: velora.OrderInfo, value: number)
+---@field set_productCurrentPrice fun(self: velora.OrderInfo, value: number) The price now, in single precision.
 ---@field get_productExchangeRatio fun(self: velora.OrderInfo): number The exchange ratio, as a float: 1.0.
 ---@field get_productId fun(self: velora.OrderInfo): string? The product's id.
----@field set_productId fun(self: velora.OrderInfo, value: velora.Text)
+---@field set_productId fun(self: velora.OrderInfo, value: velora.Text) The product's id.
 ---@field get_productName fun(self: velora.OrderInfo): string? The product's name.
 ---@field get_productPrice fun(self: velora.OrderInfo): number The product's price, in single precision.
 ---@field get_qrCodeParams fun(self: velora.OrderInfo): string? Parameters of an order by QR code.
----@field set_qrCodeParams fun(self: velora.OrderInfo, value: velora.Text)
+---@field set_qrCodeParams fun(self: velora.OrderInfo, value: velora.Text) Parameters of an order by QR code.
 ---@field get_sdkOrderId fun(self: velora.OrderInfo): string? The SDK's id of the order.
----@field set_sdkOrderId fun(self: velora.OrderInfo, value: velora.Text)
+---@field set_sdkOrderId fun(self: velora.OrderInfo, value: velora.Text) The SDK's id of the order.
 ---@field get_sdkPids fun(self: velora.OrderInfo): table<string, string>? Product ids by channel.
 ---@field get_serverId fun(self: velora.OrderInfo): string? The game server.
----@field set_serverId fun(self: velora.OrderInfo, value: velora.Text)
+---@field set_serverId fun(self: velora.OrderInfo, value: velora.Text) The game server.
 ---@field get_signature fun(self: velora.OrderInfo): string? The signature.
----@field set_signature fun(self: velora.OrderInfo, value: velora.Text)
+---@field set_signature fun(self: velora.OrderInfo, value: velora.Text) The signature.
 ---@field get_uid fun(self: velora.OrderInfo): string? The user id.
----@field set_uid fun(self: velora.OrderInfo, value: velora.Text)
+---@field set_uid fun(self: velora.OrderInfo, value: velora.Text) The user id.
 ---@field get_userData fun(self: velora.OrderInfo): string? The game's own data.
----@field set_userData fun(self: velora.OrderInfo, value: velora.Text)
+---@field set_userData fun(self: velora.OrderInfo, value: velora.Text) The game's own data.
 ---@field get_userName fun(self: velora.OrderInfo): string? The user's name.
----@field set_userName fun(self: velora.OrderInfo, value: velora.Text)
+---@field set_userName fun(self: velora.OrderInfo, value: velora.Text) The user's name.
 ---@field get_receipt fun(self: velora.OrderInfo): string? The store's receipt.
 ---@field get_qrCodeOrder fun(self: velora.OrderInfo): boolean Whether it is an order by QR code.
----@field set_qrCodeOrder fun(self: velora.OrderInfo, value: boolean)
+---@field set_qrCodeOrder fun(self: velora.OrderInfo, value: boolean) Whether it is an order by QR code.
 ---@field get_arrPriceLocaleId fun(self: velora.OrderInfo): string[] Locale ids of prices.
----@field set_arrPriceLocaleId fun(self: velora.OrderInfo, value: velora.Text[]) Every element has to be a text.
+---@field set_arrPriceLocaleId fun(self: velora.OrderInfo, value: velora.Text[]) Strings or numbers only.
 ---@field get_channelGoodsTypes fun(self: velora.OrderInfo): table<string, integer>? Goods types by channel.
 ---@field get_jellRatios fun(self: velora.OrderInfo): table<string, integer>? Ratios by channel.
----@field get_jellyExtra fun(self: velora.OrderInfo): string?
----@field get_cpOrderId fun(self: velora.OrderInfo): string?
----@field set_cpOrderId fun(self: velora.OrderInfo, value: velora.Text)
----@field get_jfExtraJson fun(self: velora.OrderInfo): string?
----@field set_jfExtraJson fun(self: velora.OrderInfo, value: velora.Text)
+---@field get_jellyExtra fun(self: velora.OrderInfo): string? Defined by the SDK.
+---@field get_cpOrderId fun(self: velora.OrderInfo): string? Defined by the SDK.
+---@field set_cpOrderId fun(self: velora.OrderInfo, value: velora.Text) Defined by the SDK.
+---@field get_jfExtraJson fun(self: velora.OrderInfo): string? Defined by the SDK.
+---@field set_jfExtraJson fun(self: velora.OrderInfo, value: velora.Text) Defined by the SDK.
 ---@field get_timeStamp fun(self: velora.OrderInfo): integer The time stamp, 64 bits.
 ---@field get_orderType fun(self: velora.OrderInfo): integer The type of the order.
----@field set_orderType fun(self: velora.OrderInfo, value: integer)
+---@field set_orderType fun(self: velora.OrderInfo, value: integer) The type of the order.
 velora.OrderInfo = {}
 
----Makes an order for a product. Raises an error where `productId` is no text, or the SDK gives no order.
+---Creates an order for a product. Raises an error if `productId` is neither a string nor a number, or if the SDK
+---returns no order.
 ---@param productId velora.Text
 ---@return velora.OrderInfo
 function velora.OrderInfo.new(productId) end
 
----Registers a product: by its id alone, or with id, name, price, ratio and `sdkPids`.
+---Registers a product: by its id alone, or by the id, name, price, exchange ratio and `sdkPids` of a `ProductInfo`. The
+---other fields of a `ProductInfo` are not passed on.
 ---@param product velora.Text|velora.ProductInfo
 function velora.OrderInfo.regProduct(product) end
 
----Whether a product, or the product of an order, is registered. False, not nil, for any other argument.
+---Returns whether a product, or the product of an order, is registered. Returns false, not nil, for any other argument.
 ---@param product velora.Text|velora.OrderInfo
 ---@return boolean
 function velora.OrderInfo.hasProduct(product) end
 
----The registered products by id; nil when there are none. Each is a copy.
+---Returns the registered products by id; nil, not an empty table, if there are none. Each product is a copy.
 ---@return table<string, velora.ProductInfo>? products
 function velora.OrderInfo.getProductList() end
 
----The type of a product: one of `PRODUCT_TYPE_*`.
+---Returns the type of a product, one of `PRODUCT_TYPE_*`.
 ---@param productId velora.Text
 ---@return integer
 function velora.OrderInfo.getProductType(productId) end
@@ -785,92 +870,92 @@ function velora.OrderInfo.getProductType(productId) end
 ---@param productType integer one of `PRODUCT_TYPE_*`
 function velora.OrderInfo.setProductType(productId, productType) end
 
----The order as JSON; nil where the SDK gives none.
+---Returns the order as JSON; nil if the SDK returns none.
 ---@return string?
 function velora.OrderInfo:obj2Json() end
 
----The SDK's cart information for this order.
+---Returns the SDK's cart information for this order; nil if the SDK returns none.
 ---@return string?
 function velora.OrderInfo:produceCartInfo() end
 
 -- ### Order states
--- What `get_orderStatus` of an order gives.
+-- The values of an order's `orderStatus`. Their meanings follow their names; the SDK decides when it sets which.
 
 ---@class velora
----@field ORDER_S_PREPARING 0
----@field ORDER_S_SDK_CHECKING 1
----@field ORDER_S_SDK_CHECK_OK 2
----@field ORDER_S_SDK_CHECK_ERR 3
----@field ORDER_S_GS_CHECKING 4
----@field ORDER_S_GS_CHECK_OK 5
----@field ORDER_S_GS_CHECK_ERR 6
----@field ORDER_S_WRONG_PRODUCT_ID 7
----@field ORDER_S_WRONG_ORDER_ID 8
----@field ORDER_ZV_OS_SDK_INVALID_CURRENCY 9
----@field ORDER_S_SDK_CHECK_RESTORE_OK 10
----@field ORDER_S_SDK_CHECK_CANCEL 11
----@field ORDER_S_SDK_CHANNEL_IN_BLACKLIST 430
+---@field ORDER_S_PREPARING 0 The order is being prepared.
+---@field ORDER_S_SDK_CHECKING 1 The SDK is checking the order.
+---@field ORDER_S_SDK_CHECK_OK 2 The SDK has accepted the order; offline, the success of `zvCheckOrder`.
+---@field ORDER_S_SDK_CHECK_ERR 3 The SDK's check has failed; offline, the failure of `zvCheckOrder`.
+---@field ORDER_S_GS_CHECKING 4 The game server is checking the order.
+---@field ORDER_S_GS_CHECK_OK 5 The game server has accepted the order; offline, the success of `zvConsume`.
+---@field ORDER_S_GS_CHECK_ERR 6 The game server's check has failed; offline, the failure of `zvConsume`.
+---@field ORDER_S_WRONG_PRODUCT_ID 7 The product id is wrong.
+---@field ORDER_S_WRONG_ORDER_ID 8 The order id is wrong.
+---@field ORDER_ZV_OS_SDK_INVALID_CURRENCY 9 The currency is invalid.
+---@field ORDER_S_SDK_CHECK_RESTORE_OK 10 The SDK has restored an earlier purchase.
+---@field ORDER_S_SDK_CHECK_CANCEL 11 The SDK's check was cancelled.
+---@field ORDER_S_SDK_CHANNEL_IN_BLACKLIST 430 The channel is on a blacklist.
 
 -- ### Product types
--- What `getProductType` gives and `setProductType` takes.
+-- The results of `getProductType` and the values for `setProductType`.
 
 ---@class velora
----@field PRODUCT_TYPE_CONSUMABLE 0
----@field PRODUCT_TYPE_NONCONSUMABLE 1
----@field PRODUCT_TYPE_AUTORENEWABLE 2
----@field PRODUCT_TYPE_NONRENEWABLE 3
----@field PRODUCT_TYPE_PROMOCODE 4
+---@field PRODUCT_TYPE_CONSUMABLE 0 A product that is used up and can be bought again.
+---@field PRODUCT_TYPE_NONCONSUMABLE 1 A product that is bought once.
+---@field PRODUCT_TYPE_AUTORENEWABLE 2 A subscription that renews itself.
+---@field PRODUCT_TYPE_NONRENEWABLE 3 A subscription that does not renew itself.
+---@field PRODUCT_TYPE_PROMOCODE 4 A product that comes with a promotion code.
 
 -- ## ProductInfo
 
----A product for the register. It is a copy of its own: changes reach the register by `OrderInfo.regProduct` only.
+---A product for the register. It is a copy: changes reach the register only through `OrderInfo.regProduct`.
 ---@class velora.ProductInfo
 ---@field get_productId fun(self: velora.ProductInfo): string The product's id.
----@field set_productId fun(self: velora.ProductInfo, value: velora.Text)
+---@field set_productId fun(self: velora.ProductInfo, value: velora.Text) The product's id.
 ---@field get_productName fun(self: velora.ProductInfo): string Its name.
----@field set_productName fun(self: velora.ProductInfo, value: velora.Text)
+---@field set_productName fun(self: velora.ProductInfo, value: velora.Text) Its name.
 ---@field get_productPrice fun(self: velora.ProductInfo): number Its price, in single precision.
----@field set_productPrice fun(self: velora.ProductInfo, value: number)
+---@field set_productPrice fun(self: velora.ProductInfo, value: number) Its price, in single precision.
 ---@field get_exchangeRatio fun(self: velora.ProductInfo): integer Its exchange ratio.
----@field set_exchangeRatio fun(self: velora.ProductInfo, value: integer)
+---@field set_exchangeRatio fun(self: velora.ProductInfo, value: integer) Its exchange ratio.
 ---@field get_sdkPids fun(self: velora.ProductInfo): table<string, string> Product ids by channel.
----@field set_sdkPids fun(self: velora.ProductInfo, value: table<velora.Text, velora.Text>)
+---@field set_sdkPids fun(self: velora.ProductInfo, value: table<velora.Text, velora.Text>) Product ids by channel.
 ---@field get_channelGoodsTypes fun(self: velora.ProductInfo): table<string, integer> Goods types by channel.
----@field set_channelGoodsTypes fun(self: velora.ProductInfo, value: table<velora.Text, integer>)
+---@field set_channelGoodsTypes fun(self: velora.ProductInfo, value: table<velora.Text, integer>) Goods types.
 ---@field get_jellRatios fun(self: velora.ProductInfo): table<string, integer> Ratios by channel.
----@field set_jellRatios fun(self: velora.ProductInfo, value: table<velora.Text, integer>)
----@field get_jellyExtra fun(self: velora.ProductInfo): string
----@field set_jellyExtra fun(self: velora.ProductInfo, value: velora.Text)
----@field get_ffChannel fun(self: velora.ProductInfo): string
----@field set_ffChannel fun(self: velora.ProductInfo, value: velora.Text)
+---@field set_jellRatios fun(self: velora.ProductInfo, value: table<velora.Text, integer>) Ratios by channel.
+---@field get_jellyExtra fun(self: velora.ProductInfo): string Defined by the SDK.
+---@field set_jellyExtra fun(self: velora.ProductInfo, value: velora.Text) Defined by the SDK.
+---@field get_ffChannel fun(self: velora.ProductInfo): string Defined by the SDK.
+---@field set_ffChannel fun(self: velora.ProductInfo, value: velora.Text) Defined by the SDK.
 velora.ProductInfo = {}
 
----Makes an empty product, with an exchange ratio of 1.
+---Creates an empty product with an exchange ratio of 1.
 ---@return velora.ProductInfo
 function velora.ProductInfo.new() end
 
 -- ## SkuDetailsInfo
 
----The store's description of an item. All fields are texts, the price in micros as well.
+---The store's description of an item. All fields are strings, even the price in micros.
 ---@class velora.SkuDetailsInfo
 ---@field get_description fun(self: velora.SkuDetailsInfo): string? The description.
----@field set_description fun(self: velora.SkuDetailsInfo, value: velora.Text)
----@field get_price fun(self: velora.SkuDetailsInfo): string? The price as the player reads it.
----@field set_price fun(self: velora.SkuDetailsInfo, value: velora.Text)
+---@field set_description fun(self: velora.SkuDetailsInfo, value: velora.Text) The description.
+---@field get_price fun(self: velora.SkuDetailsInfo): string? The price as shown to the player.
+---@field set_price fun(self: velora.SkuDetailsInfo, value: velora.Text) The price as shown to the player.
 ---@field get_priceAmountMicros fun(self: velora.SkuDetailsInfo): string? The price in millionths.
----@field set_priceAmountMicros fun(self: velora.SkuDetailsInfo, value: velora.Text)
+---@field set_priceAmountMicros fun(self: velora.SkuDetailsInfo, value: velora.Text) The price in millionths.
 ---@field get_priceCurrencyCode fun(self: velora.SkuDetailsInfo): string? The currency code.
----@field set_priceCurrencyCode fun(self: velora.SkuDetailsInfo, value: velora.Text)
+---@field set_priceCurrencyCode fun(self: velora.SkuDetailsInfo, value: velora.Text) The currency code.
 ---@field get_productId fun(self: velora.SkuDetailsInfo): string? The item's id.
----@field set_productId fun(self: velora.SkuDetailsInfo, value: velora.Text)
+---@field set_productId fun(self: velora.SkuDetailsInfo, value: velora.Text) The item's id.
 ---@field get_title fun(self: velora.SkuDetailsInfo): string? The title.
----@field set_title fun(self: velora.SkuDetailsInfo, value: velora.Text)
+---@field set_title fun(self: velora.SkuDetailsInfo, value: velora.Text) The title.
 ---@field get_type fun(self: velora.SkuDetailsInfo): string? The type of the item.
----@field set_type fun(self: velora.SkuDetailsInfo, value: velora.Text)
+---@field set_type fun(self: velora.SkuDetailsInfo, value: velora.Text) The type of the item.
 velora.SkuDetailsInfo = {}
 
----Makes a description from seven texts. Which field each fills is up to the SDK; offline it is the order of the
----getters. Raises an error where the SDK gives no record.
+---Creates a store item from seven strings. The SDK defines which field each of them fills; offline it is the order of
+---the getters. Raises an error if the SDK returns no record.
 ---@param text1 velora.Text
 ---@param text2 velora.Text
 ---@param text3 velora.Text
@@ -886,207 +971,256 @@ function velora.SkuDetailsInfo.new(text1, text2, text3, text4, text5, text6, tex
 
 -- ## Friends
 
----Asks for the player's own account; answered by QueryMyAccountFinished.
+---Requests the player's own account. It arrives as QueryMyAccountFinished.
 function velora.zvQueryMyAccount() end
 
----Asks for the player's friends; answered by QueryFriendListFinished.
+---Requests the player's friends. They arrive as QueryFriendListFinished.
 function velora.zvQueryFriendList() end
 
----Asks for the friends that play this game; answered by QueryFriendListInGameFinished.
+---Requests the friends who play this game. They arrive as QueryFriendListInGameFinished.
 function velora.zvQueryFriendListInGame() end
 
----Asks for those who can be invited; answered by QueryAvailablesInviteesFinished.
+---Requests the accounts that can be invited. They arrive as QueryAvailablesInviteesFinished.
 function velora.zvQueryAvailablesInvitees() end
 
----Asks for those who have invited the player; answered by QueryInviterListFinished.
+---Requests the accounts that have invited the player. They arrive as QueryInviterListFinished.
 function velora.zvQueryInviterList() end
 
----Takes accounts off the list of inviters. Raises an error where the argument is no table; elements that are no texts
----are left out.
+---Removes accounts from the list of inviters. Raises an error if the argument is not a table. Leaves out elements that
+---are neither strings nor numbers.
 ---@param accountIds velora.Text[]
 function velora.zvDeleteInviters(accountIds) end
 
----Asks somebody to be a friend; answered by QueryApplyFriendFinished.
+---Sends a friend request. The result arrives as QueryApplyFriendFinished.
 ---@param accountId velora.Text
 function velora.zvApplyFriend(accountId) end
 
----Invites friends; answered by QueryInviteFriendListFinished.
----@param first velora.Text passed to the SDK as it is
----@param second velora.Text passed to the SDK as it is
+---Invites friends. The result arrives as QueryInviteFriendListFinished; offline it lists both strings.
+---@param first velora.Text the SDK defines its meaning
+---@param second velora.Text the SDK defines its meaning
 function velora.zvInviteFriendList(first, second) end
 
----Asks whether the "daren" data has been updated; answered by QueryIsDarenUpdated.
+---Asks whether the SDK's "daren" data has been updated. The result arrives as QueryIsDarenUpdated.
 function velora.zvIsDarenUpdated() end
 
----Opens the page of further games.
+---Opens the page of further games. The offline runtime only records the call.
 function velora.zvMoreGame() end
 
----The player's own account is here; nil where the SDK has none.
 ---@alias velora.OnQueryMyAccountFinished fun(account: velora.AccountInfo?)
+
+---Sets the callback of QueryMyAccountFinished, which comes with the player's own account. It receives `account`, or nil
+---if the SDK sends none.
 ---@param callback velora.OnQueryMyAccountFinished
 function velora.setOnQueryMyAccountFinished(callback) end
+
+---Returns the callback of QueryMyAccountFinished; nil if none is set.
 ---@return velora.OnQueryMyAccountFinished? callback
 function velora.getOnQueryMyAccountFinished() end
 
----The friends are here.
 ---@alias velora.OnQueryFriendListFinished fun(accounts: velora.AccountInfo[])
+
+---Sets the callback of QueryFriendListFinished, which comes with the player's friends. It receives `accounts`, a list
+---of `AccountInfo`; empty if there are none or if the query has failed.
 ---@param callback velora.OnQueryFriendListFinished
 function velora.setOnQueryFriendListFinished(callback) end
+
+---Returns the callback of QueryFriendListFinished; nil if none is set.
 ---@return velora.OnQueryFriendListFinished? callback
 function velora.getOnQueryFriendListFinished() end
 
----The friends that play this game are here.
 ---@alias velora.OnQueryFriendListInGameFinished fun(accounts: velora.AccountInfo[])
+
+---Sets the callback of QueryFriendListInGameFinished, which comes with the friends who play this game. It receives
+---`accounts`, a list of `AccountInfo`; empty if there are none or if the query has failed.
 ---@param callback velora.OnQueryFriendListInGameFinished
 function velora.setOnQueryFriendListInGameFinished(callback) end
+
+---Returns the callback of QueryFriendListInGameFinished; nil if none is set.
 ---@return velora.OnQueryFriendListInGameFinished? callback
 function velora.getOnQueryFriendListInGameFinished() end
 
----Those who can be invited are here.
 ---@alias velora.OnQueryAvailablesInviteesFinished fun(accounts: velora.AccountInfo[])
+
+---Sets the callback of QueryAvailablesInviteesFinished, which comes with the accounts that can be invited. It receives
+---`accounts`, a list of `AccountInfo`; empty if there are none or if the query has failed.
 ---@param callback velora.OnQueryAvailablesInviteesFinished
 function velora.setOnQueryAvailablesInviteesFinished(callback) end
+
+---Returns the callback of QueryAvailablesInviteesFinished; nil if none is set.
 ---@return velora.OnQueryAvailablesInviteesFinished? callback
 function velora.getOnQueryAvailablesInviteesFinished() end
 
----Those who have invited the player are here.
 ---@alias velora.OnQueryInviterListFinished fun(accounts: velora.AccountInfo[])
+
+---Sets the callback of QueryInviterListFinished, which comes with the accounts that have invited the player. It
+---receives `accounts`, a list of `AccountInfo`; empty if there are none or if the query has failed.
 ---@param callback velora.OnQueryInviterListFinished
 function velora.setOnQueryInviterListFinished(callback) end
+
+---Returns the callback of QueryInviterListFinished; nil if none is set.
 ---@return velora.OnQueryInviterListFinished? callback
 function velora.getOnQueryInviterListFinished() end
 
----A friend request has been sent, or not.
 ---@alias velora.OnQueryApplyFriendFinished fun(success: boolean)
+
+---Sets the callback of QueryApplyFriendFinished, which comes when a friend request has been sent or has failed. It
+---receives `success`.
 ---@param callback velora.OnQueryApplyFriendFinished
 function velora.setOnQueryApplyFriendFinished(callback) end
+
+---Returns the callback of QueryApplyFriendFinished; nil if none is set.
 ---@return velora.OnQueryApplyFriendFinished? callback
 function velora.getOnQueryApplyFriendFinished() end
 
----Friends have been invited; the texts say whom.
----@alias velora.OnQueryInviteFriendListFinished fun(invited: string[])
+---@alias velora.OnQueryInviteFriendListFinished fun(texts: string[])
+
+---Sets the callback of QueryInviteFriendListFinished, which comes when friends have been invited. It receives `texts`,
+---a list of strings that the SDK defines; offline they are the two strings given to `zvInviteFriendList`, or none after
+---a failure.
 ---@param callback velora.OnQueryInviteFriendListFinished
 function velora.setOnQueryInviteFriendListFinished(callback) end
+
+---Returns the callback of QueryInviteFriendListFinished; nil if none is set.
 ---@return velora.OnQueryInviteFriendListFinished? callback
 function velora.getOnQueryInviteFriendListFinished() end
 
----Whether the "daren" data has been updated.
 ---@alias velora.OnQueryIsDarenUpdated fun(updated: boolean)
+
+---Sets the callback of QueryIsDarenUpdated, which comes in reply to `zvIsDarenUpdated`. It receives `updated`, whether
+---the "daren" data has been updated.
 ---@param callback velora.OnQueryIsDarenUpdated
 function velora.setOnQueryIsDarenUpdated(callback) end
+
+---Returns the callback of QueryIsDarenUpdated; nil if none is set.
 ---@return velora.OnQueryIsDarenUpdated? callback
 function velora.getOnQueryIsDarenUpdated() end
 
 -- ## Ranks, achievements and quests
 
----Asks for a ranking; answered by QueryRankFinished.
+---Requests a ranking. It arrives as QueryRankFinished.
 ---@param query velora.QueryRankInfo
 function velora.zvQueryRank(query) end
 
----Reports a score; answered by QueryRankUpdateFinished.
+---Reports a score. The result arrives as QueryRankUpdateFinished.
 ---@param name velora.Text the ranking
----@param score number|string a string has to read as a number
+---@param score number|string a string must convert to a number
 function velora.zvUpdateRank(name, score) end
 
----Opens a leaderboard.
+---Opens a leaderboard. The offline runtime only records the call.
 ---@param name velora.Text
 function velora.zvDisplayLeaderboard(name) end
 
----Reports the progress of an achievement; answered by QueryRankUpdateAchievement.
+---Reports the progress of an achievement. The result arrives as QueryRankUpdateAchievement.
 ---@param name velora.Text
 ---@param progress integer
 function velora.zvUpdateAchievement(name, progress) end
 
----Opens the list of achievements.
+---Opens the list of achievements. The offline runtime only records the call.
 function velora.zvDisplayAchievement() end
 
----Reports that a game event has happened so often.
+---Reports how often a game event has happened. The offline runtime only records the call.
 ---@param name velora.Text
 ---@param count integer
 function velora.zvUpdateEvent(name, count) end
 
----Opens a view of quests; QuestCompleted tells of those that are completed. Raises an error where the argument is no
----table; elements that do not convert to an integer count as 0.
+---Opens a view of quests. QuestCompleted comes for each completed quest; offline, for every quest shown. Raises an
+---error if the argument is not a table. An element that does not convert to an integer counts as 0.
 ---@param quests integer[]
 function velora.zvDisplayQuests(quests) end
 
----The ranking is here.
 ---@alias velora.OnQueryRankFinished fun(accounts: velora.AccountInfo[])
+
+---Sets the callback of QueryRankFinished, which comes with a ranking. It receives `accounts`, a list of `AccountInfo`;
+---empty if there are none or if the query has failed.
 ---@param callback velora.OnQueryRankFinished
 function velora.setOnQueryRankFinished(callback) end
+
+---Returns the callback of QueryRankFinished; nil if none is set.
 ---@return velora.OnQueryRankFinished? callback
 function velora.getOnQueryRankFinished() end
 
----A score has been reported, or not.
 ---@alias velora.OnQueryRankUpdateFinished fun(success: boolean)
+
+---Sets the callback of QueryRankUpdateFinished, which comes when a score has been reported or could not be. It receives
+---`success`.
 ---@param callback velora.OnQueryRankUpdateFinished
 function velora.setOnQueryRankUpdateFinished(callback) end
+
+---Returns the callback of QueryRankUpdateFinished; nil if none is set.
 ---@return velora.OnQueryRankUpdateFinished? callback
 function velora.getOnQueryRankUpdateFinished() end
 
----The progress of an achievement has been reported, or not.
 ---@alias velora.OnQueryRankUpdateAchievement fun(success: boolean)
+
+---Sets the callback of QueryRankUpdateAchievement, which comes when the progress of an achievement has been reported or
+---could not be. It receives `success`.
 ---@param callback velora.OnQueryRankUpdateAchievement
 function velora.setOnQueryRankUpdateAchievement(callback) end
+
+---Returns the callback of QueryRankUpdateAchievement; nil if none is set.
 ---@return velora.OnQueryRankUpdateAchievement? callback
 function velora.getOnQueryRankUpdateAchievement() end
 
----A quest has been completed.
----@alias velora.OnQuestCompleted fun(quest: string)
+---@alias velora.OnQuestCompleted fun(text: string)
+
+---Sets the callback of QuestCompleted, which comes when a quest has been completed. It receives `text`, which names the
+---quest in a form that the SDK defines; offline it is the quest's number.
 ---@param callback velora.OnQuestCompleted
 function velora.setOnQuestCompleted(callback) end
+
+---Returns the callback of QuestCompleted; nil if none is set.
 ---@return velora.OnQuestCompleted? callback
 function velora.getOnQuestCompleted() end
 
 -- ## AccountInfo
 
----An account: a friend, an inviter, a place in a ranking. Mostly it comes through a callback.
+---An account: a friend, an inviter, a place in a ranking. Most accounts come through callbacks.
 ---@class velora.AccountInfo
 ---@field get_accountId fun(self: velora.AccountInfo): string? The account's id.
----@field set_accountId fun(self: velora.AccountInfo, value: velora.Text)
+---@field set_accountId fun(self: velora.AccountInfo, value: velora.Text) The account's id.
 ---@field get_icon fun(self: velora.AccountInfo): string? The picture.
----@field set_icon fun(self: velora.AccountInfo, value: velora.Text)
+---@field set_icon fun(self: velora.AccountInfo, value: velora.Text) The picture.
 ---@field get_idType fun(self: velora.AccountInfo): string? What kind of id it is.
----@field set_idType fun(self: velora.AccountInfo, value: velora.Text)
+---@field set_idType fun(self: velora.AccountInfo, value: velora.Text) What kind of id it is.
 ---@field get_nickname fun(self: velora.AccountInfo): string? The nickname.
----@field set_nickname fun(self: velora.AccountInfo, value: velora.Text)
+---@field set_nickname fun(self: velora.AccountInfo, value: velora.Text) The nickname.
 ---@field get_rank fun(self: velora.AccountInfo): integer The place in the ranking, 64 bits.
----@field set_rank fun(self: velora.AccountInfo, value: integer)
+---@field set_rank fun(self: velora.AccountInfo, value: integer) The place in the ranking, 64 bits.
 ---@field get_rankScore fun(self: velora.AccountInfo): number The score in the ranking.
----@field set_rankScore fun(self: velora.AccountInfo, value: number)
----@field get_relationType fun(self: velora.AccountInfo): string? How the account stands to the player.
----@field set_relationType fun(self: velora.AccountInfo, value: velora.Text)
+---@field set_rankScore fun(self: velora.AccountInfo, value: number) The score in the ranking.
+---@field get_relationType fun(self: velora.AccountInfo): string? The account's relation to the player.
+---@field set_relationType fun(self: velora.AccountInfo, value: velora.Text) The account's relation to the player.
 ---@field get_remark fun(self: velora.AccountInfo): string? A remark.
----@field set_remark fun(self: velora.AccountInfo, value: velora.Text)
+---@field set_remark fun(self: velora.AccountInfo, value: velora.Text) A remark.
 ---@field get_statusMessage fun(self: velora.AccountInfo): string? The status message.
----@field set_statusMessage fun(self: velora.AccountInfo, value: velora.Text)
+---@field set_statusMessage fun(self: velora.AccountInfo, value: velora.Text) The status message.
 ---@field get_inGame fun(self: velora.AccountInfo): boolean Whether it plays this game.
----@field set_inGame fun(self: velora.AccountInfo, value: boolean)
+---@field set_inGame fun(self: velora.AccountInfo, value: boolean) Whether it plays this game.
 velora.AccountInfo = {}
 
----Makes an account. A nil given counts as a wrong argument; leave it out instead. Raises an error where the SDK gives
+---Creates an account. Pass no argument rather than nil, which is a wrong argument. Raises an error if the SDK returns
 ---no record.
 ---@overload fun(): velora.AccountInfo
----@param text velora.Text passed to the SDK as it is
+---@param text velora.Text the SDK defines its meaning
 ---@return velora.AccountInfo
 function velora.AccountInfo.new(text) end
 
 -- ## QueryRankInfo
 
----Which ranking to ask for, among whom, and how many places.
+---A ranking query: which ranking, among whom, and how many places.
 ---@class velora.QueryRankInfo
 ---@field get_type fun(self: velora.QueryRankInfo): string? One of `QUERY_RANK_TYPE_*`.
----@field set_type fun(self: velora.QueryRankInfo, value: velora.Text)
+---@field set_type fun(self: velora.QueryRankInfo, value: velora.Text) One of `QUERY_RANK_TYPE_*`.
 ---@field get_scope fun(self: velora.QueryRankInfo): string? One of `QUERY_RANK_SCOPE_*`.
----@field set_scope fun(self: velora.QueryRankInfo, value: velora.Text)
+---@field set_scope fun(self: velora.QueryRankInfo, value: velora.Text) One of `QUERY_RANK_SCOPE_*`.
 ---@field get_count fun(self: velora.QueryRankInfo): integer How many places.
----@field set_count fun(self: velora.QueryRankInfo, value: integer)
+---@field set_count fun(self: velora.QueryRankInfo, value: integer) How many places.
 velora.QueryRankInfo = {}
 
----Makes a query. A nil given counts as a wrong argument; leave it out instead. Raises an error where the SDK gives no
----record.
+---Creates a ranking query. Pass no argument rather than nil, which is a wrong argument. Raises an error if the SDK
+---returns no record.
 ---@overload fun(): velora.QueryRankInfo
----@param text velora.Text passed to the SDK as it is
+---@param text velora.Text the SDK defines its meaning
 ---@return velora.QueryRankInfo
 function velora.QueryRankInfo.new(text) end
 
@@ -1094,119 +1228,124 @@ function velora.QueryRankInfo.new(text) end
 -- Strings of the SDK, for `set_type` and `set_scope` of a query.
 
 ---@class velora
----@field QUERY_RANK_TYPE_SCORE string
----@field QUERY_RANK_TYPE_GRADE string
----@field QUERY_RANK_SCOPE_ALL string
----@field QUERY_RANK_SCOPE_FRIEND string
+---@field QUERY_RANK_TYPE_SCORE string Rank by score. The value is the SDK's.
+---@field QUERY_RANK_TYPE_GRADE string Rank by grade. The value is the SDK's.
+---@field QUERY_RANK_SCOPE_ALL string Rank among all players. The value is the SDK's.
+---@field QUERY_RANK_SCOPE_FRIEND string Rank among friends. The value is the SDK's.
 
 -- # Sharing
 -- A request is filled field by field, tested with `zvCheckArgs` and sent with `zvShare`.
 
 -- ## Sending a request
 
----Shares; answered by ShareFinished.
+---Sends a share request. The result arrives as ShareFinished.
 ---@param share velora.ShareInfo
 function velora.zvShare(share) end
 
----Whether a request is complete enough to be shared.
+---Returns whether a share request is complete enough to be sent.
 ---@param share velora.ShareInfo
 ---@return boolean
 function velora.zvCheckArgs(share) end
 
----The message of the last request that was shared.
+---Returns the message of the last request that was shared; nil if there is none. Offline it is the request's `text`, or
+---its `title` if that is empty.
 ---@return string?
 function velora.getLastShareMessage() end
 
----The request has been shared, or not.
 ---@alias velora.OnShareFinished fun(success: boolean)
+
+---Sets the callback of ShareFinished, which comes when a request has been shared or could not be. It receives
+---`success`.
 ---@param callback velora.OnShareFinished
 function velora.setOnShareFinished(callback) end
+
+---Returns the callback of ShareFinished; nil if none is set.
 ---@return velora.OnShareFinished? callback
 function velora.getOnShareFinished() end
 
 -- ## ShareInfo
 
 ---A share request. The maps `…Params` and `…Msg` and the list of recipients reach the SDK when the request is sent,
----checked or turned into a string; every other field at once.
+---checked or converted with `tostring`; every other field at once.
 ---@class velora.ShareInfo
----@field get_aLinkParams fun(self: velora.ShareInfo): table<string, string>
----@field set_aLinkParams fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>)
----@field get_altTextMsg fun(self: velora.ShareInfo): table<string, string>
----@field set_altTextMsg fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>)
+---@field get_aLinkParams fun(self: velora.ShareInfo): table<string, string> Defined by the SDK.
+---@field set_aLinkParams fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>) Defined by the SDK.
+---@field get_altTextMsg fun(self: velora.ShareInfo): table<string, string> Defined by the SDK.
+---@field set_altTextMsg fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>) Defined by the SDK.
 ---@field get_desc fun(self: velora.ShareInfo): string? The description.
----@field set_desc fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_desc fun(self: velora.ShareInfo, value: velora.Text) The description.
 ---@field get_extJson fun(self: velora.ShareInfo): string? Further data as JSON.
----@field set_extJson fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_extJson fun(self: velora.ShareInfo, value: velora.Text) Further data as JSON.
 ---@field get_failMsg fun(self: velora.ShareInfo): string? The message shown when sharing fails.
----@field set_failMsg fun(self: velora.ShareInfo, value: velora.Text)
----@field get_iLinkParams fun(self: velora.ShareInfo): table<string, string>
----@field set_iLinkParams fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>)
+---@field set_failMsg fun(self: velora.ShareInfo, value: velora.Text) The message shown when sharing fails.
+---@field get_iLinkParams fun(self: velora.ShareInfo): table<string, string> Defined by the SDK.
+---@field set_iLinkParams fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>) Defined by the SDK.
 ---@field get_image fun(self: velora.ShareInfo): string? The picture.
----@field set_image fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_image fun(self: velora.ShareInfo, value: velora.Text) The picture.
 ---@field get_link fun(self: velora.ShareInfo): string? The link.
----@field set_link fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_link fun(self: velora.ShareInfo, value: velora.Text) The link.
 ---@field get_linkParams fun(self: velora.ShareInfo): table<string, string> Parameters of the link.
----@field set_linkParams fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>)
----@field get_linkTextMsg fun(self: velora.ShareInfo): table<string, string>
----@field set_linkTextMsg fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>)
+---@field set_linkParams fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>) Parameters of the link.
+---@field get_linkTextMsg fun(self: velora.ShareInfo): table<string, string> Defined by the SDK.
+---@field set_linkTextMsg fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>) Defined by the SDK.
 ---@field get_musicUrl fun(self: velora.ShareInfo): string? The address of the music.
----@field set_musicUrl fun(self: velora.ShareInfo, value: velora.Text)
----@field get_objectValue fun(self: velora.ShareInfo): string?
----@field set_objectValue fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_musicUrl fun(self: velora.ShareInfo, value: velora.Text) The address of the music.
+---@field get_objectValue fun(self: velora.ShareInfo): string? Defined by the SDK.
+---@field set_objectValue fun(self: velora.ShareInfo, value: velora.Text) Defined by the SDK.
 ---@field get_roomId fun(self: velora.ShareInfo): string? The id of the room to invite to.
----@field set_roomId fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_roomId fun(self: velora.ShareInfo, value: velora.Text) The id of the room to invite to.
 ---@field get_roomToken fun(self: velora.ShareInfo): string? The token of that room.
----@field set_roomToken fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_roomToken fun(self: velora.ShareInfo, value: velora.Text) The token of that room.
 ---@field get_scope fun(self: velora.ShareInfo): string? One of `SHARE_SCOPE_*`.
----@field set_scope fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_scope fun(self: velora.ShareInfo, value: velora.Text) One of `SHARE_SCOPE_*`.
 ---@field get_shareChannel fun(self: velora.ShareInfo): integer One of `ZV_SHARE_TYPE_*`.
----@field set_shareChannel fun(self: velora.ShareInfo, value: integer)
----@field get_subTextMsg fun(self: velora.ShareInfo): table<string, string>
----@field set_subTextMsg fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>)
+---@field set_shareChannel fun(self: velora.ShareInfo, value: integer) One of `ZV_SHARE_TYPE_*`.
+---@field get_subTextMsg fun(self: velora.ShareInfo): table<string, string> Defined by the SDK.
+---@field set_subTextMsg fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>) Defined by the SDK.
 ---@field get_templateId fun(self: velora.ShareInfo): string? The id of a template.
----@field set_templateId fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_templateId fun(self: velora.ShareInfo, value: velora.Text) The id of a template.
 ---@field get_text fun(self: velora.ShareInfo): string? The text.
----@field set_text fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_text fun(self: velora.ShareInfo, value: velora.Text) The text.
 ---@field get_tag fun(self: velora.ShareInfo): string? The tag.
----@field set_tag fun(self: velora.ShareInfo, value: velora.Text)
----@field get_textMsg fun(self: velora.ShareInfo): table<string, string>
----@field set_textMsg fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>)
+---@field set_tag fun(self: velora.ShareInfo, value: velora.Text) The tag.
+---@field get_textMsg fun(self: velora.ShareInfo): table<string, string> Defined by the SDK.
+---@field set_textMsg fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>) Defined by the SDK.
 ---@field get_timelineType fun(self: velora.ShareInfo): string? The kind of timeline.
----@field set_timelineType fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_timelineType fun(self: velora.ShareInfo, value: velora.Text) The kind of timeline.
 ---@field get_title fun(self: velora.ShareInfo): string? The title.
----@field set_title fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_title fun(self: velora.ShareInfo, value: velora.Text) The title.
 ---@field get_toUser fun(self: velora.ShareInfo): string? The recipient.
----@field set_toUser fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_toUser fun(self: velora.ShareInfo, value: velora.Text) The recipient.
 ---@field get_toUserList fun(self: velora.ShareInfo): string[] The recipients.
----@field set_toUserList fun(self: velora.ShareInfo, value: velora.Text[])
+---@field set_toUserList fun(self: velora.ShareInfo, value: velora.Text[]) The recipients.
 ---@field get_type fun(self: velora.ShareInfo): string? One of `SHARE_TYPE_*`.
----@field set_type fun(self: velora.ShareInfo, value: velora.Text)
----@field get_u3dShareBitmap fun(self: velora.ShareInfo): string?
----@field set_u3dShareBitmap fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_type fun(self: velora.ShareInfo, value: velora.Text) One of `SHARE_TYPE_*`.
+---@field get_u3dShareBitmap fun(self: velora.ShareInfo): string? Defined by the SDK.
+---@field set_u3dShareBitmap fun(self: velora.ShareInfo, value: velora.Text) Defined by the SDK.
 ---@field get_u3dshareThumb fun(self: velora.ShareInfo): string? Spelt with a small s, unlike `u3dShareBitmap`.
----@field set_u3dshareThumb fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_u3dshareThumb fun(self: velora.ShareInfo, value: velora.Text) Spelt with a small s.
 ---@field get_videoUrl fun(self: velora.ShareInfo): string? The address of the video.
----@field set_videoUrl fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_videoUrl fun(self: velora.ShareInfo, value: velora.Text) The address of the video.
 ---@field get_showShareDialog fun(self: velora.ShareInfo): boolean Whether the SDK asks where to share.
----@field set_showShareDialog fun(self: velora.ShareInfo, value: boolean)
+---@field set_showShareDialog fun(self: velora.ShareInfo, value: boolean) Whether the SDK asks where to share.
 ---@field get_shareThumb fun(self: velora.ShareInfo): string? The small picture.
----@field set_shareThumb fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_shareThumb fun(self: velora.ShareInfo, value: velora.Text) The small picture.
 ---@field get_shareBitmap fun(self: velora.ShareInfo): string? The picture data.
----@field set_shareBitmap fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_shareBitmap fun(self: velora.ShareInfo, value: velora.Text) The picture data.
 ---@field get_path fun(self: velora.ShareInfo): string? The page of a mini program.
----@field set_path fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_path fun(self: velora.ShareInfo, value: velora.Text) The page of a mini program.
 ---@field get_userName fun(self: velora.ShareInfo): string? The name of a mini program.
----@field set_userName fun(self: velora.ShareInfo, value: velora.Text)
+---@field set_userName fun(self: velora.ShareInfo, value: velora.Text) The name of a mini program.
 ---@field get_miniProgramType fun(self: velora.ShareInfo): integer `MINIPROGRAM_TYPE_*`, `MINIPTOGRAM_TYPE_RELEASE`.
----@field set_miniProgramType fun(self: velora.ShareInfo, value: integer)
+---@field set_miniProgramType fun(self: velora.ShareInfo, value: integer) A mini program type.
 ---@field get_shareData fun(self: velora.ShareInfo): table<string, string>? Further data by name.
----@field set_shareData fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>)
+---@field set_shareData fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>) Further data by name.
 velora.ShareInfo = {}
 
----Makes a request. A nil given counts as a wrong argument; leave it out instead. Raises an error where the SDK gives no
----record.
+---Creates a share request. Pass no argument rather than nil, which is a wrong argument. Raises an error if the SDK
+---returns no record.
 ---@overload fun(): velora.ShareInfo
----@param text velora.Text passed to the SDK as it is
+---@param text velora.Text the SDK defines its meaning
 ---@return velora.ShareInfo
 function velora.ShareInfo.new(text) end
 
@@ -1214,156 +1353,184 @@ function velora.ShareInfo.new(text) end
 -- Strings of the SDK: `SHARE_TYPE_*` for `set_type`, `SHARE_SCOPE_*` for `set_scope`.
 
 ---@class velora
----@field SHARE_SCOPE_TOUSER string
----@field SHARE_SCOPE_CIRCLE string
----@field SHARE_SCOPE_MULTIUSER string
----@field SHARE_TYPE_INVITE string
----@field SHARE_TYPE_IMAGE string
----@field SHARE_TYPE_LINK string
----@field SHARE_TYPE_VIDEO string
----@field SHARE_TYPE_AUDIO string
----@field SHARE_TYPE_GIF string
----@field SHARE_TYPE_TEXT_ONLY string
----@field SHARE_TYPE_ATTENTION string
----@field SHARE_TYPE_GAME_REQUEST string
----@field SHARE_TYPE_GET_TOKEN string
----@field SHARE_TYPE_GET_RTMP string
----@field SHARE_TYPE_CLEAR_TOKEN string
----@field SHARE_TYPE_MINI_PROGRAM string
----@field SHARE_TYPE_MUSIC string
+---@field SHARE_SCOPE_TOUSER string Share with one user. The value is the SDK's.
+---@field SHARE_SCOPE_CIRCLE string Share with a circle. The value is the SDK's.
+---@field SHARE_SCOPE_MULTIUSER string Share with several users. The value is the SDK's.
+---@field SHARE_TYPE_INVITE string Share an invitation. The value is the SDK's.
+---@field SHARE_TYPE_IMAGE string Share a picture. The value is the SDK's.
+---@field SHARE_TYPE_LINK string Share a link. The value is the SDK's.
+---@field SHARE_TYPE_VIDEO string Share a video. The value is the SDK's.
+---@field SHARE_TYPE_AUDIO string Share a sound recording. The value is the SDK's.
+---@field SHARE_TYPE_GIF string Share a GIF picture. The value is the SDK's.
+---@field SHARE_TYPE_TEXT_ONLY string Share only text. The value is the SDK's.
+---@field SHARE_TYPE_ATTENTION string Kind of request: attention. Value and meaning are the SDK's.
+---@field SHARE_TYPE_GAME_REQUEST string Share a game request. The value is the SDK's.
+---@field SHARE_TYPE_GET_TOKEN string Kind of request: get a token. Value and meaning are the SDK's.
+---@field SHARE_TYPE_GET_RTMP string Kind of request: get an RTMP address. Value and meaning are the SDK's.
+---@field SHARE_TYPE_CLEAR_TOKEN string Kind of request: clear a token. Value and meaning are the SDK's.
+---@field SHARE_TYPE_MINI_PROGRAM string Share a mini program. The value is the SDK's.
+---@field SHARE_TYPE_MUSIC string Share music. The value is the SDK's.
 
 -- ### Share channel codes
 -- Integers, for `set_shareChannel` of a request.
 
 ---@class velora
----@field ZV_SHARE_TYPE_ANY integer
----@field ZV_SHARE_TYPE_WEIBO integer
----@field ZV_SHARE_TYPE_WEIXIN_FRIEND integer
----@field ZV_SHARE_TYPE_WEIXIN_TIMELINE integer
----@field ZV_SHARE_TYPE_PELIA_FRIEND integer
----@field ZV_SHARE_TYPE_PELIA_TIMELINE integer
----@field ZV_SHARE_TYPE_QQ integer
----@field ZV_SHARE_TYPE_QZONE integer
----@field ZV_SHARE_TYPE_PLUS integer
----@field ZV_SHARE_TYPE_FACEBOOK integer
----@field ZV_SHARE_TYPE_GARENA integer
----@field ZV_SHARE_TYPE_KAKAO integer
----@field ZV_SHARE_TYPE_TWITTER integer
----@field ZV_SHARE_TYPE_ZALO integer
----@field ZV_SHARE_TYPE_VK integer
----@field ZV_SHARE_TYPE_LINE integer
----@field ZV_SHARE_TYPE_FACEBOOK_MESSENGER integer
----@field ZV_SHARE_TYPE_FACEBOOK_LIKE integer
----@field ZV_SHARE_TYPE_WEIBO_ATTENTION integer
----@field ZV_SHARE_TYPE_WEIXIN_ATTENTION integer
----@field ZV_SHARE_TYPE_NAVER_CAFE integer
----@field ZV_SHARE_TYPE_WHATSAPP integer
----@field ZV_SHARE_TYPE_INSTAGRAM integer
----@field ZV_SHARE_TYPE_YOUTUBE integer
----@field ZV_SHARE_TYPE_BAIDU_TIEBA integer
----@field ZV_SHARE_TYPE_STARLIT_TIMELINE integer
----@field ZV_SHARE_TYPE_STARLIT_FRIEND integer
----@field ZV_SHARE_TYPE_XIAN_LIAO integer
----@field ZV_SHARE_TYPE_INSTAGRAM_2 integer
----@field ZV_SHARE_TYPE_TWITTER_2 integer
----@field ZV_SHARE_TYPE_LINE_2 integer
----@field ZV_SHARE_TYPE_LINE_GAME integer
----@field ZV_SHARE_TYPE_MINI_PROGRAM integer
----@field ZV_SHARE_TYPE_DOUYIN integer
----@field ZV_SHARE_TYPE_KUAISHOU integer
----@field ZV_SHARE_TYPE_KAKAO_STORY integer
----@field ZV_SHARE_TYPE_TIKTOK integer
+---@field ZV_SHARE_TYPE_ANY integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_WEIBO integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_WEIXIN_FRIEND integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_WEIXIN_TIMELINE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_PELIA_FRIEND integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_PELIA_TIMELINE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_QQ integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_QZONE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_PLUS integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_FACEBOOK integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_GARENA integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_KAKAO integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_TWITTER integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_ZALO integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_VK integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_LINE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_FACEBOOK_MESSENGER integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_FACEBOOK_LIKE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_WEIBO_ATTENTION integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_WEIXIN_ATTENTION integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_NAVER_CAFE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_WHATSAPP integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_INSTAGRAM integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_YOUTUBE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_BAIDU_TIEBA integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_STARLIT_TIMELINE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_STARLIT_FRIEND integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_XIAN_LIAO integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_INSTAGRAM_2 integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_TWITTER_2 integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_LINE_2 integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_LINE_GAME integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_MINI_PROGRAM integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_DOUYIN integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_KUAISHOU integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_KAKAO_STORY integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_TIKTOK integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
 
 -- ### Mini program
--- The key of the property for the kind of mini program, a string, and integers for `set_miniProgramType`. The first of
--- these is spelt so by the SDK.
+-- A property name, a string, and integers for `set_miniProgramType`. `MINIPTOGRAM_TYPE_RELEASE` is spelt like this.
 
 ---@class velora
----@field MINI_PROGRAM_RELEASE_TYPE string
----@field MINIPTOGRAM_TYPE_RELEASE integer spelt so by the SDK
----@field MINIPROGRAM_TYPE_TEST integer
----@field MINIPROGRAM_TYPE_PREVIEW integer
+---@field MINI_PROGRAM_RELEASE_TYPE string Property name. Value and meaning are the SDK's.
+---@field MINIPTOGRAM_TYPE_RELEASE integer Released, for `set_miniProgramType`. Spelt like this. The value is the SDK's.
+---@field MINIPROGRAM_TYPE_TEST integer Test version, for `set_miniProgramType`. The value is the SDK's.
+---@field MINIPROGRAM_TYPE_PREVIEW integer Preview, for `set_miniProgramType`. The value is the SDK's.
 
 -- # Notifications
--- Messages to players who are not in the game: push notifications from afar, local ones from this device.
+-- Messages to players who are not in the game: push notifications over the network, local ones from this device.
 
 -- ## Push notifications
 
----Asks whether push notifications are on; answered by PushGetUserPushFinished.
+---Asks whether push notifications are enabled. The result arrives as PushGetUserPushFinished.
 function velora.zvGetUsePushNotification() end
 
----Switches push notifications on or off; answered by PushSetUserPushFinished.
+---Enables or disables push notifications. The result arrives as PushSetUserPushFinished.
 ---@param enabled boolean
 function velora.zvSetUsePushNotification(enabled) end
 
----Sends a push notification to other players; answered by PushSendPushNotificationFinished. Elements that are no texts
----are left out.
+---Sends a push notification to other players. The result arrives as PushSendPushNotificationFinished. Leaves out
+---elements that are neither strings nor numbers.
 ---@param text velora.Text
 ---@param accountIds velora.Text[]
 function velora.zvSendPushNotification(text, accountIds) end
 
----Whether push notifications are on.
 ---@alias velora.OnPushGetUserPushFinished fun(enabled: boolean)
+
+---Sets the callback of PushGetUserPushFinished, which comes in reply to `zvGetUsePushNotification`. It receives
+---`enabled`, whether push notifications are enabled.
 ---@param callback velora.OnPushGetUserPushFinished
 function velora.setOnPushGetUserPushFinished(callback) end
+
+---Returns the callback of PushGetUserPushFinished; nil if none is set.
 ---@return velora.OnPushGetUserPushFinished? callback
 function velora.getOnPushGetUserPushFinished() end
 
----Push notifications have been switched, or not.
 ---@alias velora.OnPushSetUserPushFinished fun(success: boolean)
+
+---Sets the callback of PushSetUserPushFinished, which comes when push notifications have been enabled or disabled or
+---could not be. It receives `success`.
 ---@param callback velora.OnPushSetUserPushFinished
 function velora.setOnPushSetUserPushFinished(callback) end
+
+---Returns the callback of PushSetUserPushFinished; nil if none is set.
 ---@return velora.OnPushSetUserPushFinished? callback
 function velora.getOnPushSetUserPushFinished() end
 
----A push notification has been sent, or not.
 ---@alias velora.OnPushSendPushNotificationFinished fun(success: boolean)
+
+---Sets the callback of PushSendPushNotificationFinished, which comes when a push notification has been sent or could
+---not be. It receives `success`.
 ---@param callback velora.OnPushSendPushNotificationFinished
 function velora.setOnPushSendPushNotificationFinished(callback) end
+
+---Returns the callback of PushSendPushNotificationFinished; nil if none is set.
 ---@return velora.OnPushSendPushNotificationFinished? callback
 function velora.getOnPushSendPushNotificationFinished() end
 
 -- ## Local notifications
 
----Sends a notification on this device; answered by PushSendLocalNotificationFinished.
+---Sends a notification on this device. The result arrives as PushSendLocalNotificationFinished.
 ---@param text velora.Text
 function velora.zvSendLocalNotification(text) end
 
----Cancels a local notification; answered by CancelLocalPushFinished.
----@param id integer
+---Cancels a local notification. The result arrives as CancelLocalPushFinished.
+---@param id integer the SDK defines the ids; offline any cancels
 function velora.zvCancelLocalNotification(id) end
 
----Whether a notification is pending.
+---Returns whether the SDK has a notification. Offline it has one after `zvSendLocalNotification` has succeeded and
+---until `zvCancelLocalNotification` succeeds.
 ---@return boolean
 function velora.zvHasNotification() end
 
----A local notification has been sent; `code` is the SDK's.
 ---@alias velora.OnPushSendLocalNotificationFinished fun(code: integer)
+
+---Sets the callback of PushSendLocalNotificationFinished, which comes when a local notification has been sent or could
+---not be. It receives `code`, which the SDK defines; offline it is 0 for success and 1 for a failure.
 ---@param callback velora.OnPushSendLocalNotificationFinished
 function velora.setOnPushSendLocalNotificationFinished(callback) end
+
+---Returns the callback of PushSendLocalNotificationFinished; nil if none is set.
 ---@return velora.OnPushSendLocalNotificationFinished? callback
 function velora.getOnPushSendLocalNotificationFinished() end
 
----A local notification has been cancelled, or not.
 ---@alias velora.OnCancelLocalPushFinished fun(success: boolean)
+
+---Sets the callback of CancelLocalPushFinished, which comes when a local notification has been cancelled or could not
+---be. It receives `success`.
 ---@param callback velora.OnCancelLocalPushFinished
 function velora.setOnCancelLocalPushFinished(callback) end
+
+---Returns the callback of CancelLocalPushFinished; nil if none is set.
 ---@return velora.OnCancelLocalPushFinished? callback
 function velora.getOnCancelLocalPushFinished() end
 
 -- ## Messages received
 
----A message notification has come in.
 ---@alias velora.OnReceiveMsgNotification fun()
+
+---Sets the callback of ReceiveMsgNotification, which comes when a message notification has been received. It receives
+---nothing.
 ---@param callback velora.OnReceiveMsgNotification
 function velora.setOnReceiveMsgNotification(callback) end
+
+---Returns the callback of ReceiveMsgNotification; nil if none is set.
 ---@return velora.OnReceiveMsgNotification? callback
 function velora.getOnReceiveMsgNotification() end
 
----The player has entered the game by way of a message; the two texts are the SDK's.
 ---@alias velora.OnReceiveMsgEnterGame fun(first: string, second: string)
+
+---Sets the callback of ReceiveMsgEnterGame, which comes when the player has entered the game from a message. It
+---receives two strings, `first` and `second`, which the SDK defines.
 ---@param callback velora.OnReceiveMsgEnterGame
 function velora.setOnReceiveMsgEnterGame(callback) end
+
+---Returns the callback of ReceiveMsgEnterGame; nil if none is set.
 ---@return velora.OnReceiveMsgEnterGame? callback
 function velora.getOnReceiveMsgEnterGame() end
 
@@ -1372,310 +1539,378 @@ function velora.getOnReceiveMsgEnterGame() end
 
 -- ## Connecting
 
----Connects to the channel; answered by ConnectToChannelFinished.
+---Connects the account to the channel. The result arrives as ConnectToChannelFinished.
 function velora.zvConnectToChannel() end
 
----Ends the connection; answered by DisconnectToChannelFinished.
+---Disconnects the account from the channel. The result arrives as DisconnectToChannelFinished.
 function velora.zvDisConnectFromChannel() end
 
----Whether the channel is connected.
+---Returns whether the channel is connected.
 ---@return boolean
 function velora.zvHasChannelConnected() end
 
----The id in the channel.
+---Returns the account's id in the channel; nil if the SDK has none. Offline there is one while the channel is
+---connected.
 ---@return string?
 function velora.zvGetChannelID() end
 
----Selects one of the channel's options; answered by SelectChannelOptionFinished.
----@param option integer
+---Selects an option of the channel. The result arrives as SelectChannelOptionFinished.
+---@param option integer the SDK defines the options
 function velora.zvSelectChannelOption(option) end
 
----Tells the SDK the zone, that is the game server, of the player.
+---Tells the SDK the player's zone, that is, the game server. The offline runtime only records the call.
 ---@param zone velora.Text
 function velora.zvSetZone(zone) end
 
----An attempt to connect has ended. `code` is one of `CONNECT_*`.
 ---@alias velora.OnConnectToChannelFinished fun(code: integer)
+
+---Sets the callback of ConnectToChannelFinished, which comes when an attempt to connect to the channel has ended. It
+---receives `code`, one of `CONNECT_*`.
 ---@param callback velora.OnConnectToChannelFinished
 function velora.setOnConnectToChannelFinished(callback) end
+
+---Returns the callback of ConnectToChannelFinished; nil if none is set.
 ---@return velora.OnConnectToChannelFinished? callback
 function velora.getOnConnectToChannelFinished() end
 
----An attempt to disconnect has ended; `code` is the SDK's.
 ---@alias velora.OnDisconnectToChannelFinished fun(code: integer)
+
+---Sets the callback of DisconnectToChannelFinished, which comes when an attempt to disconnect from the channel has
+---ended. It receives `code`, which the SDK defines; offline it is 0 for success and 1 for a failure.
 ---@param callback velora.OnDisconnectToChannelFinished
 function velora.setOnDisconnectToChannelFinished(callback) end
+
+---Returns the callback of DisconnectToChannelFinished; nil if none is set.
 ---@return velora.OnDisconnectToChannelFinished? callback
 function velora.getOnDisconnectToChannelFinished() end
 
----An option has been selected, or not.
 ---@alias velora.OnSelectChannelOptionFinished fun(success: boolean)
+
+---Sets the callback of SelectChannelOptionFinished, which comes when a channel option has been selected or could not
+---be. It receives `success`.
 ---@param callback velora.OnSelectChannelOptionFinished
 function velora.setOnSelectChannelOptionFinished(callback) end
+
+---Returns the callback of SelectChannelOptionFinished; nil if none is set.
 ---@return velora.OnSelectChannelOptionFinished? callback
 function velora.getOnSelectChannelOptionFinished() end
 
 -- ### Codes of ConnectToChannelFinished
--- What `code` of the callback ConnectToChannelFinished can be.
+-- The values of `code` in ConnectToChannelFinished. Their meanings follow their names; the SDK decides when it sends
+-- each.
 
 ---@class velora
----@field CONNECT_OK 0
----@field CONNECT_FAILED 1
----@field CONNECT_NEWID 2
----@field CONNECT_USEDID 3
----@field CONNECT_MODIFIED 4
----@field CONNECT_CANCELED 5
----@field CONNECT_SIGN_CANCELED 6
+---@field CONNECT_OK 0 The channel is connected.
+---@field CONNECT_FAILED 1 The connection has failed.
+---@field CONNECT_NEWID 2 The result concerns a new id; the SDK defines when.
+---@field CONNECT_USEDID 3 The result concerns an id that is in use; the SDK defines when.
+---@field CONNECT_MODIFIED 4 The connection was modified; the SDK defines when.
+---@field CONNECT_CANCELED 5 The connection was cancelled.
+---@field CONNECT_SIGN_CANCELED 6 The sign-in to the channel was cancelled.
 
 -- # Views and QR codes
 -- Web pages and the SDK's own views over the game, the floating button, QR codes.
 
 -- ## Web views and boards
 
----Opens a web page in the SDK's web view.
+---Opens a web page in the SDK's web view. ShowViewOpened or ShowViewFailed follows.
 ---@param url velora.Text
 function velora.zvOpenWebView(url) end
 
----Closes the web view.
+---Closes the web view. ShowViewClosed follows.
 function velora.zvCloseWebView() end
 
----Shows a web page of the SDK.
----@param url velora.Text passed to the SDK as it is; `ZV_WEB_*` name the SDK's own pages
+---Shows a web page of the SDK. ShowViewOpened or ShowViewFailed follows.
+---@param url velora.Text one of `ZV_WEB_*`, or another string that the SDK knows
 function velora.zvShowWeb(url) end
 
----Shows a board.
----@param first velora.Text passed to the SDK as it is
----@param second velora.Text passed to the SDK as it is
----@param third velora.Text passed to the SDK as it is
+---Shows a board. ShowViewOpened or ShowViewFailed follows.
+---@param first velora.Text the SDK defines its meaning
+---@param second velora.Text the SDK defines its meaning
+---@param third velora.Text the SDK defines its meaning
 function velora.zvShowBoard(first, second, third) end
 
----The page in the web view calls the game.
----@alias velora.OnWebviewNativeCall fun(name: string, arguments: string)
+---@alias velora.OnWebviewNativeCall fun(first: string, second: string)
+
+---Sets the callback of WebviewNativeCall, which comes when a page in the web view calls the game. It receives two
+---strings, `first` and `second`, which the page and the SDK define.
 ---@param callback velora.OnWebviewNativeCall
 function velora.setOnWebviewNativeCall(callback) end
+
+---Returns the callback of WebviewNativeCall; nil if none is set.
 ---@return velora.OnWebviewNativeCall? callback
 function velora.getOnWebviewNativeCall() end
 
 -- ### Web pages
--- Strings that name the SDK's own web pages.
+-- Strings: web pages of the SDK.
 
 ---@class velora
----@field ZV_WEB_NOTICE_INTRO string
----@field ZV_WEB_NOTICE_INGAME string
----@field ZV_WEB_PROMOTION_MAIN string
----@field ZV_WEB_PROMOTION_EVENT string
----@field ZV_WEB_PROMOTION_ETC string
----@field ZV_WEB_COUPON string
----@field ZV_WEB_CUSTOMER_SUPPORT_HOME string
----@field ZV_WEB_CUSTOMER_SUPPORT_FAQ string
----@field ZV_WEB_CUSTOMER_SUPPORT_INQUIRY string
----@field ZV_WEB_CUSTOMER_SUPPORT_GUIDE string
----@field ZV_WEB_CUSTOMER_SUPPORT_HISTORY string
----@field ZV_WEB_GAME_REVIEW string
----@field ZV_WEB_FREE_CHARGEVIEW string
+---@field ZV_WEB_NOTICE_INTRO string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
+---@field ZV_WEB_NOTICE_INGAME string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
+---@field ZV_WEB_PROMOTION_MAIN string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
+---@field ZV_WEB_PROMOTION_EVENT string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
+---@field ZV_WEB_PROMOTION_ETC string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
+---@field ZV_WEB_COUPON string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
+---@field ZV_WEB_CUSTOMER_SUPPORT_HOME string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
+---@field ZV_WEB_CUSTOMER_SUPPORT_FAQ string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
+---@field ZV_WEB_CUSTOMER_SUPPORT_INQUIRY string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
+---@field ZV_WEB_CUSTOMER_SUPPORT_GUIDE string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
+---@field ZV_WEB_CUSTOMER_SUPPORT_HISTORY string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
+---@field ZV_WEB_GAME_REVIEW string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
+---@field ZV_WEB_FREE_CHARGEVIEW string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
 
 -- ## Other views
 
----Shows the view of rewards; ShowViewRewarded tells when a reward is due. Raises an error where the argument is no
----table; elements that are no texts are left out.
+---Shows the view of rewards. ShowViewRewarded comes when a reward is due; ShowViewOpened or ShowViewFailed and, at the
+---end, ShowViewClosed come as well. Raises an error if the argument is not a table. Leaves out elements that are
+---neither strings nor numbers.
 ---@param rewards velora.Text[]
 function velora.zvShowRewardView(rewards) end
 
----Opens the conversation with the support.
+---Opens the conversation with the support. ShowViewOpened or ShowViewFailed follows.
 function velora.zvShowConversation() end
 
----Opens the frequently asked questions.
+---Opens the frequently asked questions. ShowViewOpened or ShowViewFailed follows.
 function velora.zvShowFAQs() end
 
----Opens the view of players nearby.
+---Opens the view of players nearby. ShowViewOpened or ShowViewFailed follows.
 function velora.zvOpenNearby() end
 
----Opens the VESPERA view.
+---Opens the VESPERA view. ShowViewOpened or ShowViewFailed follows.
 function velora.zvOpenVespera() end
 
----Closes the flash view.
+---Closes the flash view. ShowViewClosed follows.
 function velora.zvCloseFlash() end
 
----Shows or hides the SDK's floating button. Any value will do, by its truth: 0 shows it, no argument hides it.
+---Shows or hides the SDK's floating button. The argument is converted to a boolean: 0 shows the button, no argument
+---hides it. The offline runtime only records the call.
 ---@param visible? any
 function velora.zvSetFloatBtnVisible(visible) end
 
----A view has opened.
 ---@alias velora.OnShowViewOpened fun()
+
+---Sets the callback of ShowViewOpened, which comes when a view has opened. It receives nothing.
 ---@param callback velora.OnShowViewOpened
 function velora.setOnShowViewOpened(callback) end
+
+---Returns the callback of ShowViewOpened; nil if none is set.
 ---@return velora.OnShowViewOpened? callback
 function velora.getOnShowViewOpened() end
 
----A view could not be opened.
 ---@alias velora.OnShowViewFailed fun()
+
+---Sets the callback of ShowViewFailed, which comes when a view could not be opened. It receives nothing.
 ---@param callback velora.OnShowViewFailed
 function velora.setOnShowViewFailed(callback) end
+
+---Returns the callback of ShowViewFailed; nil if none is set.
 ---@return velora.OnShowViewFailed? callback
 function velora.getOnShowViewFailed() end
 
----A view has been closed.
 ---@alias velora.OnShowViewClosed fun()
+
+---Sets the callback of ShowViewClosed, which comes when a view has been closed. It receives nothing.
 ---@param callback velora.OnShowViewClosed
 function velora.setOnShowViewClosed(callback) end
+
+---Returns the callback of ShowViewClosed; nil if none is set.
 ---@return velora.OnShowViewClosed? callback
 function velora.getOnShowViewClosed() end
 
----The player has earned the reward of a view.
 ---@alias velora.OnShowViewRewarded fun()
+
+---Sets the callback of ShowViewRewarded, which comes when the player has earned the reward of a view. It receives
+---nothing.
 ---@param callback velora.OnShowViewRewarded
 function velora.setOnShowViewRewarded(callback) end
+
+---Returns the callback of ShowViewRewarded; nil if none is set.
 ---@return velora.OnShowViewRewarded? callback
 function velora.getOnShowViewRewarded() end
 
 -- ## QR codes
 
----Makes a QR code as a picture; answered by CreateQRCodeDone.
----@param text velora.Text what the code is to say
+---Creates a QR code as a picture. The result arrives as CreateQRCodeDone. Offline nothing is drawn.
+---@param text velora.Text what the code contains
 ---@param width integer
 ---@param height integer
----@param path velora.Text passed to the SDK as it is; its answer names a file
----@param icon? any a text is passed to the SDK as it is; anything else is ignored
+---@param path velora.Text the SDK defines its meaning; offline the event's `text` is this string
+---@param icon? any a string or number is passed to the SDK, which defines its meaning; any other value is ignored
 function velora.zvCreateQRCode(text, width, height, path, icon) end
 
----Scans a QR code; answered by CodeScannerFinish.
----@param text velora.Text passed to the SDK as it is
+---Scans a QR code. The result arrives as CodeScannerFinish.
+---@param text velora.Text the SDK defines its meaning; offline it is what the scanner reads
 function velora.zvScannerQRCode(text) end
 
----Opens the QR code scanner; answered by CodeScannerFinish.
----@param text velora.Text passed to the SDK as it is
----@param number integer passed to the SDK as it is
+---Opens the QR code scanner. The result arrives as CodeScannerFinish.
+---@param text velora.Text the SDK defines its meaning; offline it is what the scanner reads
+---@param number integer the SDK defines its meaning
 function velora.zvPresentQRCodeScanner(text, number) end
 
----A QR code has been made.
----@alias velora.OnCreateQRCodeDone fun(path: string)
+---@alias velora.OnCreateQRCodeDone fun(text: string)
+
+---Sets the callback of CreateQRCodeDone, which comes when a QR code has been created or could not be. It receives
+---`text`, which the SDK defines; offline it is the `path` given to `zvCreateQRCode`, or empty after a failure.
 ---@param callback velora.OnCreateQRCodeDone
 function velora.setOnCreateQRCodeDone(callback) end
+
+---Returns the callback of CreateQRCodeDone; nil if none is set.
 ---@return velora.OnCreateQRCodeDone? callback
 function velora.getOnCreateQRCodeDone() end
 
----A scan has ended. `code` is one of `CODE_SCANNER_*`, `text` what was read.
 ---@alias velora.OnCodeScannerFinish fun(code: integer, text: string)
+
+---Sets the callback of CodeScannerFinish, which comes when a scan has ended. It receives `code`, one of
+---`CODE_SCANNER_*`, and `text`, which the SDK defines; offline it is the string with which the scanner was opened, or
+---empty after a failure.
 ---@param callback velora.OnCodeScannerFinish
 function velora.setOnCodeScannerFinish(callback) end
+
+---Returns the callback of CodeScannerFinish; nil if none is set.
 ---@return velora.OnCodeScannerFinish? callback
 function velora.getOnCodeScannerFinish() end
 
 -- ### Codes of CodeScannerFinish
--- What `code` of the callback CodeScannerFinish can be.
+-- The values of `code` in CodeScannerFinish. Their meanings follow their names; the SDK decides when it sends each.
 
 ---@class velora
----@field CODE_SCANNER_SUCCESS 0
----@field CODE_SCANNER_PARAM_INVALID 1
----@field CODE_SCANNER_UID_MISMATCH 2
----@field CODE_SCANNER_RETURN_GAME 3
----@field CODE_SCANNER_QR_CODE_INVALID 5
----@field CODE_SCANNER_PERMISSIONS_DENY 4
----@field CODE_SCANNER_FAIL 10
----@field CODE_SCANNER_PICTURE_EMPTY 11
----@field CODE_SCANNER_EXT_QRCODE_SUEESS 21 spelt so by the SDK
----@field CODE_SCANNER_CHANNEL_NOT_SUPPORT 31
+---@field CODE_SCANNER_SUCCESS 0 A code was read.
+---@field CODE_SCANNER_PARAM_INVALID 1 A parameter was invalid.
+---@field CODE_SCANNER_UID_MISMATCH 2 The user id does not match.
+---@field CODE_SCANNER_RETURN_GAME 3 The player returned to the game.
+---@field CODE_SCANNER_QR_CODE_INVALID 5 The QR code is invalid.
+---@field CODE_SCANNER_PERMISSIONS_DENY 4 A permission was denied.
+---@field CODE_SCANNER_FAIL 10 The scan has failed.
+---@field CODE_SCANNER_PICTURE_EMPTY 11 The picture is empty.
+---@field CODE_SCANNER_EXT_QRCODE_SUEESS 21 An "EXT" QR code was read. The name is spelt like this.
+---@field CODE_SCANNER_CHANNEL_NOT_SUPPORT 31 The channel does not support scanning.
 
 -- # Controllers
--- What happens on a game controller. Each callback receives a `PadEvent` that can be asked for more.
+-- Input from game controllers. Each callback receives a `PadEvent` with the details.
 
 -- ## Controller callbacks
 
----A key goes down. `keyCode` is one of `PAD_KEYCODE_*`.
 ---@alias velora.OnControllerKeyDown fun(keyCode: integer, pad: velora.PadEvent?)
+
+---Sets the callback of ControllerKeyDown, which comes when a key goes down. It receives `keyCode`, one of
+---`PAD_KEYCODE_*`, and `pad`, the event's `PadEvent`.
 ---@param callback velora.OnControllerKeyDown
 function velora.setOnControllerKeyDown(callback) end
+
+---Returns the callback of ControllerKeyDown; nil if none is set.
 ---@return velora.OnControllerKeyDown? callback
 function velora.getOnControllerKeyDown() end
 
----A key goes up. `keyCode` is one of `PAD_KEYCODE_*`.
 ---@alias velora.OnControllerKeyUp fun(keyCode: integer, pad: velora.PadEvent?)
+
+---Sets the callback of ControllerKeyUp, which comes when a key goes up. It receives `keyCode`, one of `PAD_KEYCODE_*`,
+---and `pad`, the event's `PadEvent`.
 ---@param callback velora.OnControllerKeyUp
 function velora.setOnControllerKeyUp(callback) end
+
+---Returns the callback of ControllerKeyUp; nil if none is set.
 ---@return velora.OnControllerKeyUp? callback
 function velora.getOnControllerKeyUp() end
 
----The pressure on a key has changed.
 ---@alias velora.OnControllerKeyPressure fun(keyCode: integer, pressure: number, pad: velora.PadEvent?)
+
+---Sets the callback of ControllerKeyPressure, which comes when the pressure on a key has changed. It receives
+---`keyCode`, one of `PAD_KEYCODE_*`, `pressure` and `pad`, the event's `PadEvent`.
 ---@param callback velora.OnControllerKeyPressure
 function velora.setOnControllerKeyPressure(callback) end
+
+---Returns the callback of ControllerKeyPressure; nil if none is set.
 ---@return velora.OnControllerKeyPressure? callback
 function velora.getOnControllerKeyPressure() end
 
----The left stick has moved.
 ---@alias velora.OnControllerLeftStick fun(x: number, y: number, pad: velora.PadEvent?)
+
+---Sets the callback of ControllerLeftStick, which comes when the left stick has moved. It receives its position `x` and
+---`y` and `pad`, the event's `PadEvent`.
 ---@param callback velora.OnControllerLeftStick
 function velora.setOnControllerLeftStick(callback) end
+
+---Returns the callback of ControllerLeftStick; nil if none is set.
 ---@return velora.OnControllerLeftStick? callback
 function velora.getOnControllerLeftStick() end
 
----The right stick has moved.
 ---@alias velora.OnControllerRightStick fun(x: number, y: number, pad: velora.PadEvent?)
+
+---Sets the callback of ControllerRightStick, which comes when the right stick has moved. It receives its position `x`
+---and `y` and `pad`, the event's `PadEvent`.
 ---@param callback velora.OnControllerRightStick
 function velora.setOnControllerRightStick(callback) end
+
+---Returns the callback of ControllerRightStick; nil if none is set.
 ---@return velora.OnControllerRightStick? callback
 function velora.getOnControllerRightStick() end
 
----A controller has come or gone.
 ---@alias velora.OnControllerStateEvent fun(pad: velora.PadEvent?)
+
+---Sets the callback of ControllerStateEvent, which comes when a controller connects or disconnects. It receives `pad`,
+---the event's `PadEvent`.
 ---@param callback velora.OnControllerStateEvent
 function velora.setOnControllerStateEvent(callback) end
+
+---Returns the callback of ControllerStateEvent; nil if none is set.
 ---@return velora.OnControllerStateEvent? callback
 function velora.getOnControllerStateEvent() end
 
 -- ## PadEvent
 
----What the SDK knows of a controller event. It comes through callbacks only, and may be kept.
+---A controller event. It comes only through callbacks, and may be kept.
 ---@class velora.PadEvent
----@field get_action fun(self: velora.PadEvent): integer `PAD_ACTION_*`, as far as the SDK puts them here.
+---@field get_action fun(self: velora.PadEvent): integer `PAD_ACTION_*`; the SDK decides which getter has which.
 ---@field get_deviceId fun(self: velora.PadEvent): integer Which controller.
 ---@field get_eventTime fun(self: velora.PadEvent): integer When it happened, 64 bits.
 ---@field get_keyCode fun(self: velora.PadEvent): integer One of `PAD_KEYCODE_*`.
 ---@field get_motionKeyCode fun(self: velora.PadEvent): integer The key code of a movement.
 ---@field get_pressure fun(self: velora.PadEvent): number The pressure on a key.
----@field get_state fun(self: velora.PadEvent): integer `PAD_ACTION_*`, as far as the SDK puts them here.
----@field get_stateAction fun(self: velora.PadEvent): integer `PAD_ACTION_*`, as far as the SDK puts them here.
+---@field get_state fun(self: velora.PadEvent): integer `PAD_ACTION_*`; the SDK decides which getter has which.
+---@field get_stateAction fun(self: velora.PadEvent): integer `PAD_ACTION_*`; the SDK decides which getter has which.
 ---@field get_x fun(self: velora.PadEvent): number The x of a stick.
 ---@field get_y fun(self: velora.PadEvent): number The y of a stick.
 velora.PadEvent = {}
 
 -- ### Key codes
--- What `keyCode` of a callback, and `get_keyCode`, can be.
+-- The values of `keyCode` in callbacks and of `get_keyCode`. Those up to `PAD_KEYCODE_BUTTON_START` are Android's key
+-- event codes of the same names.
 
 ---@class velora
----@field PAD_KEYCODE_BACK 4
----@field PAD_KEYCODE_DPAD_UP 19
----@field PAD_KEYCODE_DPAD_DOWN 20
----@field PAD_KEYCODE_DPAD_LEFT 21
----@field PAD_KEYCODE_DPAD_RIGHT 22
----@field PAD_KEYCODE_BUTTON_A 96
----@field PAD_KEYCODE_BUTTON_B 97
----@field PAD_KEYCODE_BUTTON_X 99
----@field PAD_KEYCODE_BUTTON_Y 100
----@field PAD_KEYCODE_BUTTON_L1 102
----@field PAD_KEYCODE_BUTTON_R1 103
----@field PAD_KEYCODE_BUTTON_L2 104
----@field PAD_KEYCODE_BUTTON_R2 105
----@field PAD_KEYCODE_BUTTON_THUMBL 106
----@field PAD_KEYCODE_BUTTON_THUMBR 107
----@field PAD_KEYCODE_BUTTON_START 108
----@field PAD_KEYCODE_BUTTON_HELP 198
----@field PAD_KEYCODE_BUTTON_KEYBOARD 199
----@field PAD_KEYCODE_LEFT_STICK 200
----@field PAD_KEYCODE_RIGHT_STICK 201
+---@field PAD_KEYCODE_BACK 4 The Back button.
+---@field PAD_KEYCODE_DPAD_UP 19 Directional pad, up.
+---@field PAD_KEYCODE_DPAD_DOWN 20 Directional pad, down.
+---@field PAD_KEYCODE_DPAD_LEFT 21 Directional pad, left.
+---@field PAD_KEYCODE_DPAD_RIGHT 22 Directional pad, right.
+---@field PAD_KEYCODE_BUTTON_A 96 The A button.
+---@field PAD_KEYCODE_BUTTON_B 97 The B button.
+---@field PAD_KEYCODE_BUTTON_X 99 The X button.
+---@field PAD_KEYCODE_BUTTON_Y 100 The Y button.
+---@field PAD_KEYCODE_BUTTON_L1 102 The L1 button.
+---@field PAD_KEYCODE_BUTTON_R1 103 The R1 button.
+---@field PAD_KEYCODE_BUTTON_L2 104 The L2 button.
+---@field PAD_KEYCODE_BUTTON_R2 105 The R2 button.
+---@field PAD_KEYCODE_BUTTON_THUMBL 106 The left thumb stick, pressed.
+---@field PAD_KEYCODE_BUTTON_THUMBR 107 The right thumb stick, pressed.
+---@field PAD_KEYCODE_BUTTON_START 108 The Start button.
+---@field PAD_KEYCODE_BUTTON_HELP 198 The Help button.
+---@field PAD_KEYCODE_BUTTON_KEYBOARD 199 The Keyboard button.
+---@field PAD_KEYCODE_LEFT_STICK 200 The left stick, as a key.
+---@field PAD_KEYCODE_RIGHT_STICK 201 The right stick, as a key.
 
 -- ### Key actions and connection states
--- `DOWN`, `UP` and `PRESSURE` are what happens to a key, the other three what becomes of a controller.
+-- `DOWN`, `UP` and `PRESSURE` are actions of a key, the other three are states of a controller.
 
 ---@class velora
----@field PAD_ACTION_DOWN 0
----@field PAD_ACTION_UP 1
----@field PAD_ACTION_PRESSURE -1
----@field PAD_ACTION_DISCONNECTED 0
----@field PAD_ACTION_CONNECTED 1
----@field PAD_ACTION_CONNECTING 2
+---@field PAD_ACTION_DOWN 0 A key goes down.
+---@field PAD_ACTION_UP 1 A key goes up.
+---@field PAD_ACTION_PRESSURE -1 The pressure on a key has changed.
+---@field PAD_ACTION_DISCONNECTED 0 The controller is disconnected.
+---@field PAD_ACTION_CONNECTED 1 The controller is connected.
+---@field PAD_ACTION_CONNECTING 2 The controller is connecting.
 
 -- # Recording, voice and analytics
+-- The recording service, game voice, and reports for statistics.
 
 -- ## Recording
 
@@ -1685,65 +1920,65 @@ function velora.zvCCStartService() end
 ---Stops the recording service.
 function velora.zvCCStopService() end
 
----Whether the recording service records.
+---Returns whether the recording service is recording.
 ---@return boolean
 function velora.isCCRecording() end
 
----Whether it records the microphone as well.
+---Returns whether the recording service records the microphone as well.
 ---@return boolean
 function velora.isCCRecordMic() end
 
----How well the device copes with recording: one of `CC_PERFORMANCE_NOT_SUPPORT`, `CC_PERFORMANCE_GOOD` and
+---Returns how well the device copes with recording: `CC_PERFORMANCE_NOT_SUPPORT`, `CC_PERFORMANCE_GOOD` or
 ---`CC_PERFORMANCE_SOSO`.
 ---@return integer
 function velora.getCCPerformance() end
 
----The state of the recording service's window.
+---Returns the state of the recording service's window; the SDK defines the values. Offline it is 1 while the service
+---runs, else 0.
 ---@return integer
 function velora.getCCWindowState() end
 
----Gives the SDK game voice data.
----@param data velora.Text any bytes
----@param size? integer how many of them; 0, a negative one, more than there are and what is no integer mean all
----@param sampleRate? integer 48000 where it is no integer
----@param bitsPerSample? integer 16 where it is no integer
----@param channels? integer 2 where it is no integer
+---Passes game voice data to the SDK. The offline runtime only records the call.
+---@param data velora.Text any bytes, zero bytes included
+---@param size? integer number of bytes; all of them if it is 0, negative, larger than the data or not an integer
+---@param sampleRate? integer 48000 if it is not an integer
+---@param bitsPerSample? integer 16 if it is not an integer
+---@param channels? integer 2 if it is not an integer
 function velora.zvPushGameVoice(data, size, sampleRate, bitsPerSample, channels) end
 
 -- ### CC settings and performance codes
--- Strings: keys of the recording service's properties. The integers `CC_PERFORMANCE_…` are what `getCCPerformance`
--- gives.
+-- Strings: names of the recording service's properties. Integers: results of `getCCPerformance`.
 
 ---@class velora
----@field SHOULDSCCPAUSED string
----@field CC_SHOW_FPS_SETTING string
----@field CC_DEFAULT_FPS string
----@field CC_WINDOW_STATE string
----@field CC_PERFORMANCE string
----@field CC_PERFORMANCE_NOT_SUPPORT integer
----@field CC_PERFORMANCE_GOOD integer
----@field CC_PERFORMANCE_SOSO integer
+---@field SHOULDSCCPAUSED string Property name. Value and meaning are the SDK's.
+---@field CC_SHOW_FPS_SETTING string Property name. Value and meaning are the SDK's.
+---@field CC_DEFAULT_FPS string Property name. Value and meaning are the SDK's.
+---@field CC_WINDOW_STATE string Property name. Value and meaning are the SDK's.
+---@field CC_PERFORMANCE string Property name. Value and meaning are the SDK's.
+---@field CC_PERFORMANCE_NOT_SUPPORT integer Result of `getCCPerformance`: not supported. The value is the SDK's.
+---@field CC_PERFORMANCE_GOOD integer Result of `getCCPerformance`: good. The value is the SDK's.
+---@field CC_PERFORMANCE_SOSO integer Result of `getCCPerformance`: so-so. The value is the SDK's.
 
 -- ## Analytics
 
----Reports an event to the SDK's statistics.
+---Reports an event to the SDK's statistics. The offline runtime only records the call.
 ---@param event velora.Text
 function velora.zvCollectEvent(event) end
 
----Tracks an event of the game's own.
+---Tracks an event that the game defines. The offline runtime only records the call.
 ---@param name velora.Text
 ---@param value velora.Text
 function velora.zvTrackCustomEvent(name, value) end
 
----Sends the tracked events that still wait.
+---Sends the tracked events that are still waiting. The offline runtime only records the call.
 function velora.zvFlushCustomEvents() end
 
----Sends the player's profile.
----@param text velora.Text passed to the SDK as it is
----@param flag boolean passed to the SDK as it is
+---Sends the player's profile. The offline runtime only records the call.
+---@param text velora.Text the SDK defines its form
+---@param flag boolean the SDK defines its meaning
 function velora.zvSendProfile(text, flag) end
 
----Sets the identifier under which the player is counted.
+---Sets the identifier of the player in the statistics. The offline runtime only records the call.
 ---@param identifier velora.Text
 function velora.zvSetUserIdentifier(identifier) end
 
@@ -1751,41 +1986,42 @@ function velora.zvSetUserIdentifier(identifier) end
 -- Strings: keys and values for analytics reports.
 
 ---@class velora
----@field SWRVE_FUNC string
----@field SWRVE_FUNC_EVENT string
----@field SWRVE_EVENT_NAME string
----@field SWRVE_FUNC_PURCHASE string
----@field SWRVE_PURCHASE_ITEM string
----@field SWRVE_PURCHASE_CURRENCY string
----@field SWRVE_PURCHASE_COST string
----@field SWRVE_PURCHASE_QUANTITY string
----@field SWRVE_FUNC_CURRENCYGIVEN string
----@field SWRVE_CURRENCYGIVEN_CURRENCY string
----@field SWRVE_CURRENCYGIVEN_AMOUNT string
----@field SWRVE_FUNC_IAP string
----@field SWRVE_IAP_QUANTITY string
----@field SWRVE_IAP_PRODUCTID string
----@field SWRVE_IAP_PRODUCTPRICE string
----@field SWRVE_IAP_CURRENCY string
----@field SWRVE_IAP_REWARDS string
----@field SWRVE_FUNC_USERUPDATE string
----@field SWRVE_USERUPDATE_ATTRIBUTES string
----@field SWRVE_RESOURCE string
+---@field SWRVE_FUNC string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_FUNC_EVENT string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_EVENT_NAME string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_FUNC_PURCHASE string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_PURCHASE_ITEM string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_PURCHASE_CURRENCY string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_PURCHASE_COST string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_PURCHASE_QUANTITY string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_FUNC_CURRENCYGIVEN string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_CURRENCYGIVEN_CURRENCY string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_CURRENCYGIVEN_AMOUNT string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_FUNC_IAP string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_IAP_QUANTITY string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_IAP_PRODUCTID string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_IAP_PRODUCTPRICE string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_IAP_CURRENCY string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_IAP_REWARDS string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_FUNC_USERUPDATE string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_USERUPDATE_ATTRIBUTES string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_RESOURCE string Key or value of an analytics report. Value and meaning are the SDK's.
 
 -- ### Collection report codes
--- Integers that report how start, login and payment went.
+-- Integers: how start, login and payment went.
 
 ---@class velora
----@field COLLECT_SDKINIT_FAIL integer
----@field COLLECT_SDKLOGIN_FAIL integer
----@field COLLECT_SDKFF_FAIL integer
----@field COLLECT_SDKINIT_SUCC integer
----@field COLLECT_SDKLOGIN_SUCC integer
----@field COLLECT_SDKFF_SUCC integer
+---@field COLLECT_SDKINIT_FAIL integer Code of a report. Value and meaning are the SDK's.
+---@field COLLECT_SDKLOGIN_FAIL integer Code of a report. Value and meaning are the SDK's.
+---@field COLLECT_SDKFF_FAIL integer Code of a report. Value and meaning are the SDK's.
+---@field COLLECT_SDKINIT_SUCC integer Code of a report. Value and meaning are the SDK's.
+---@field COLLECT_SDKLOGIN_SUCC integer Code of a report. Value and meaning are the SDK's.
+---@field COLLECT_SDKFF_SUCC integer Code of a report. Value and meaning are the SDK's.
 
 -- # Downloads
--- The SDK's download service. Progress comes in one of two ways: as events, through the callbacks, or at once, through
--- a handler. Setting or removing a handler switches the events off for good.
+-- The SDK's download service. It reports in one of two ways: by queued events, through the callbacks, or by direct
+-- calls of a handler. Setting or removing a handler disables the queued events for good: the SDK is told to stop them,
+-- and nothing in the module enables them again.
 
 -- ## The download service
 
@@ -1793,615 +2029,641 @@ function velora.zvSetUserIdentifier(identifier) end
 ---@class velora.download
 velora.download = {}
 
----Starts the service; answered by DownloadInited.
+---Starts the download service. DownloadInited follows.
 function velora.download.init() end
 
----What the service is doing.
+---Returns what the service is doing, in a form that the SDK defines; nil if it has nothing to report. Offline,
+---DownloadProgress follows with the same string.
 ---@return string?
 function velora.download.query() end
 
----Gives the service a command. Offline DownloadProgress and DownloadFinish answer with its text.
----@param command velora.Text
+---Sends a command to the service. Offline, DownloadProgress, DownloadFinish and DownloadFinish2 follow, each with the
+---command as its `text`, and nothing is downloaded.
+---@param command velora.Text the SDK defines the commands
 function velora.download.extendFunc(command) end
 
----The version of the download service.
+---Returns the version of the download service; nil if there is none.
 ---@return string?
 function velora.download.getDownloadSDKVersion() end
 
----The service's session id.
+---Returns the service's session id; nil if there is none.
 ---@return string?
 function velora.download.getOrbitSessionId() end
 
----Does without the event DownloadFinish2.
+---Tells the service not to send DownloadFinish2 any more.
 function velora.download.disableDownloadFinish2() end
 
----The three functions that the service calls while it works, instead of queueing events.
+---The three functions that the service calls directly, instead of queueing events. All three must be present.
 ---@class velora.SyncDownloadHandler
----@field onInited fun() The service has started.
----@field onProgress fun(progress: string?) How far it is.
----@field onFinish fun(text: string, bytes: string?) A download is complete; `bytes` is nil where there are none.
+---@field onInited fun() Called when the service has started.
+---@field onProgress fun(text: string?) Called as a download advances. The SDK defines the string; nil if it sends none.
+---@field onFinish fun(text: string, bytes: string?) Called at the end; `bytes` is nil for an empty file or no data.
 
----Sets the handler, or with no argument at all removes it; nil changes nothing. The module keeps the three functions,
----not the table. A table without all three raises an error and leaves no handler.
+---Sets the download handler or, with no argument at all, removes it; any other value that is not a table changes
+---nothing. The module keeps the three functions, not the table. A table that lacks one of them raises an error and
+---leaves no handler. Every call that sets or removes a handler, and one that fails, disables the queued download events
+---for good.
 ---@overload fun()
 ---@param handler velora.SyncDownloadHandler
 function velora.download.setSyncDownloadHandler(handler) end
 
----The module's own table of the handler's three functions, which is not to be changed; nil when none is set.
+---Returns the module's own table of the handler's three functions, which must not be changed; nil if no handler is set.
 ---@return velora.SyncDownloadHandler?
 function velora.download.getSyncDownloadHandler() end
 
 -- ## Download callbacks
 
----The service has started.
 ---@alias velora.OnDownloadInited fun()
+
+---Sets the callback of DownloadInited, which comes when the download service has started. It receives nothing.
 ---@param callback velora.OnDownloadInited
 function velora.setOnDownloadInited(callback) end
+
+---Returns the callback of DownloadInited; nil if none is set.
 ---@return velora.OnDownloadInited? callback
 function velora.getOnDownloadInited() end
 
----How far a download is.
----@alias velora.OnDownloadProgress fun(progress: string)
+---@alias velora.OnDownloadProgress fun(text: string)
+
+---Sets the callback of DownloadProgress, which comes as a download advances. It receives `text`, in a form that the SDK
+---defines; offline it is the command given to `extendFunc` or what `query` returned.
 ---@param callback velora.OnDownloadProgress
 function velora.setOnDownloadProgress(callback) end
+
+---Returns the callback of DownloadProgress; nil if none is set.
 ---@return velora.OnDownloadProgress? callback
 function velora.getOnDownloadProgress() end
 
----A download is complete.
 ---@alias velora.OnDownloadFinish fun(text: string)
+
+---Sets the callback of DownloadFinish, which comes when a download has ended. It receives `text`, in a form that the
+---SDK defines; offline it is the command given to `extendFunc`.
 ---@param callback velora.OnDownloadFinish
 function velora.setOnDownloadFinish(callback) end
+
+---Returns the callback of DownloadFinish; nil if none is set.
 ---@return velora.OnDownloadFinish? callback
 function velora.getOnDownloadFinish() end
 
----A download is complete; `bytes` may hold any bytes.
 ---@alias velora.OnDownloadFinishBytes fun(bytes: string?)
+
+---Sets the callback of DownloadFinishBytes, which comes when a download has ended. It receives `bytes`, the data as a
+---string of any bytes: empty for an empty file, nil if the SDK sends no data. The offline runtime does not send this
+---event by itself.
 ---@param callback velora.OnDownloadFinishBytes
 function velora.setOnDownloadFinishBytes(callback) end
+
+---Returns the callback of DownloadFinishBytes; nil if none is set.
 ---@return velora.OnDownloadFinishBytes? callback
 function velora.getOnDownloadFinishBytes() end
 
----A download is complete; `bytes` may hold any bytes, and is nil where there are none.
 ---@alias velora.OnDownloadFinish2 fun(text: string, bytes: string?)
+
+---Sets the callback of DownloadFinish2, which comes when a download has ended, unless `disableDownloadFinish2` was
+---called. It receives `text`, in a form that the SDK defines, and `bytes`, the data as a string of any bytes: empty for
+---an empty file, nil if the SDK sends no data. (A handler's `onFinish` receives nil for both.) Offline, `text` is the
+---command given to `extendFunc`, and there is no data.
 ---@param callback velora.OnDownloadFinish2
 function velora.setOnDownloadFinish2(callback) end
+
+---Returns the callback of DownloadFinish2; nil if none is set.
 ---@return velora.OnDownloadFinish2? callback
 function velora.getOnDownloadFinish2() end
 
 -- # SDK constants
--- The SDK's further names and codes, by family. Their values are the SDK's own and may change with it: compare them and
--- pass them on, but do not write them out. Strings name properties (for `setPropStr`, `getPropStr`, `setPropInt` and
--- `getPropInt`) or are values of such a property; integers are codes.
+-- The SDK's other names and codes, by family. The SDK defines their values and may change them: compare constants and
+-- pass them on, but do not write out their values. Strings name properties (for `setPropStr`, `getPropStr`,
+-- `setPropInt` and `getPropInt`) or are values of such a property; integers are codes.
 
 -- ## Application, channel and server identity
--- Strings: properties that say who the game is.
+-- Strings: names of properties that identify the game.
 
 ---@class velora
----@field SDK_NAME string
----@field GAMEID string
----@field PROTOCOL_GAMEID string
----@field GAME_VERSION string
----@field DERIVE_CHANNEL string
----@field REQUEST_CMCC_FFTYPE string
----@field DEFAULT_CMCC_FFTYPE string
----@field CMCC_FFTYPE_URL string
----@field APP_NAME string
----@field APPID string
----@field APP_KEY string
----@field APP_SECRET string
----@field CPID string
----@field CP_KEY string
----@field SERVER_ID string
----@field SCR_ORIENTATION string
----@field PACKET_ID string
----@field USER_ID string
----@field BUOY_PRIVATEKEY string
----@field EXCHANGE_RATE string
----@field EXCHANGE_UNIT string
----@field CHANNEL_ID string
----@field REFRESH_TOKEN string
+---@field SDK_NAME string Property name. Value and meaning are the SDK's.
+---@field GAMEID string Property name. Value and meaning are the SDK's.
+---@field PROTOCOL_GAMEID string Property name. Value and meaning are the SDK's.
+---@field GAME_VERSION string Property name. Value and meaning are the SDK's.
+---@field DERIVE_CHANNEL string Property name. Value and meaning are the SDK's.
+---@field REQUEST_CMCC_FFTYPE string Property name. Value and meaning are the SDK's.
+---@field DEFAULT_CMCC_FFTYPE string Property name. Value and meaning are the SDK's.
+---@field CMCC_FFTYPE_URL string Property name. Value and meaning are the SDK's.
+---@field APP_NAME string Property name. Value and meaning are the SDK's.
+---@field APPID string Property name. Value and meaning are the SDK's.
+---@field APP_KEY string Property name. Value and meaning are the SDK's.
+---@field APP_SECRET string Property name. Value and meaning are the SDK's.
+---@field CPID string Property name. Value and meaning are the SDK's.
+---@field CP_KEY string Property name. Value and meaning are the SDK's.
+---@field SERVER_ID string Property name. Value and meaning are the SDK's.
+---@field SCR_ORIENTATION string Property name. Value and meaning are the SDK's.
+---@field PACKET_ID string Property name. Value and meaning are the SDK's.
+---@field USER_ID string Property name. Value and meaning are the SDK's.
+---@field BUOY_PRIVATEKEY string Property name. Value and meaning are the SDK's.
+---@field EXCHANGE_RATE string Property name. Value and meaning are the SDK's.
+---@field EXCHANGE_UNIT string Property name. Value and meaning are the SDK's.
+---@field CHANNEL_ID string Property name. Value and meaning are the SDK's.
+---@field REFRESH_TOKEN string Property name. Value and meaning are the SDK's.
 
 -- ## Screen orientation codes
 -- Integers: values of the property `SCR_ORIENTATION`.
 
 ---@class velora
----@field E_SO_PORTRAIT integer
----@field E_SO_LANDSCAPE integer
----@field E_SO_LANDSCAPE_REVERSE integer
----@field E_SO_AUTO integer
----@field E_SO_LANDSCAPE_SENSOR integer
----@field E_SO_PORTRAIT_SENSOR integer
+---@field E_SO_PORTRAIT integer Value of `SCR_ORIENTATION`. Value and meaning are the SDK's.
+---@field E_SO_LANDSCAPE integer Value of `SCR_ORIENTATION`. Value and meaning are the SDK's.
+---@field E_SO_LANDSCAPE_REVERSE integer Value of `SCR_ORIENTATION`. Value and meaning are the SDK's.
+---@field E_SO_AUTO integer Value of `SCR_ORIENTATION`. Value and meaning are the SDK's.
+---@field E_SO_LANDSCAPE_SENSOR integer Value of `SCR_ORIENTATION`. Value and meaning are the SDK's.
+---@field E_SO_PORTRAIT_SENSOR integer Value of `SCR_ORIENTATION`. Value and meaning are the SDK's.
 
 -- ## Update check and login status
 -- Strings: property names.
 
 ---@class velora
----@field SDK_UPDATE_CHECK_STRICT string
----@field FF_CB_URL string
----@field LOGIN_STAT string
+---@field SDK_UPDATE_CHECK_STRICT string Property name. Value and meaning are the SDK's.
+---@field FF_CB_URL string Property name. Value and meaning are the SDK's.
+---@field LOGIN_STAT string Property name. Value and meaning are the SDK's.
 
 -- ## Session, device and price limit
--- Strings that stand for no session and no device, and an integer.
+-- Strings: the values for no session and no device. `C_MAX_PRICE` is an integer.
 
 ---@class velora
----@field S_NOT_LOGIN_SESSION string
----@field INVALID_DEVICE_ID string
----@field C_MAX_PRICE integer the highest price, cut to an integer
+---@field S_NOT_LOGIN_SESSION string The session while nobody is logged in. The value is the SDK's.
+---@field INVALID_DEVICE_ID string The device id if there is none. The value is the SDK's.
+---@field C_MAX_PRICE integer The highest price, cut to an integer. The value is the SDK's.
 
 -- ## Account, device and session keys
--- Strings: property names, `INVALID_UID`, which stands for none, and values of `WEB_LOGIN_STATUS`.
+-- Strings: property names, the value `INVALID_UID`, and values of `WEB_LOGIN_STATUS`.
 
 ---@class velora
----@field INVALID_UID string
----@field PSEUDO_UID string
----@field UID string
----@field WEB_UID string
----@field WEB_SESSION string
----@field WEB_LOGIN_STATUS string
----@field WEB_LOGIN_SUCCESS string
----@field WEB_LOGIN_FAIL string
----@field UEMAIL string
----@field UBIRTHDAY string
----@field UGENDER string
----@field UHOMETOWN string
----@field UAGE string
----@field CHANNEL_UID string
----@field FB_UID string
----@field FULL_UID string
----@field GAME_UID string
----@field GAME_NAME string
----@field DEVICE_ID string
----@field UDID string
----@field DEVICE_IP string
----@field RSA_PUBLIC string
----@field RSA_PRIVATE string
----@field USR_NAME string
----@field SESSION string
----@field LOGIN_CHANNEL string
----@field SPLASH string
+---@field INVALID_UID string The user id if there is none. The value is the SDK's.
+---@field PSEUDO_UID string Property name. Value and meaning are the SDK's.
+---@field UID string Property name. Value and meaning are the SDK's.
+---@field WEB_UID string Property name. Value and meaning are the SDK's.
+---@field WEB_SESSION string Property name. Value and meaning are the SDK's.
+---@field WEB_LOGIN_STATUS string Property name. Value and meaning are the SDK's.
+---@field WEB_LOGIN_SUCCESS string Value of `WEB_LOGIN_STATUS`: logged in. The value is the SDK's.
+---@field WEB_LOGIN_FAIL string Value of `WEB_LOGIN_STATUS`: the login has failed. The value is the SDK's.
+---@field UEMAIL string Property name. Value and meaning are the SDK's.
+---@field UBIRTHDAY string Property name. Value and meaning are the SDK's.
+---@field UGENDER string Property name. Value and meaning are the SDK's.
+---@field UHOMETOWN string Property name. Value and meaning are the SDK's.
+---@field UAGE string Property name. Value and meaning are the SDK's.
+---@field CHANNEL_UID string Property name. Value and meaning are the SDK's.
+---@field FB_UID string Property name. Value and meaning are the SDK's.
+---@field FULL_UID string Property name. Value and meaning are the SDK's.
+---@field GAME_UID string Property name. Value and meaning are the SDK's.
+---@field GAME_NAME string Property name. Value and meaning are the SDK's.
+---@field DEVICE_ID string Property name. Value and meaning are the SDK's.
+---@field UDID string Property name. Value and meaning are the SDK's.
+---@field DEVICE_IP string Property name. Value and meaning are the SDK's.
+---@field RSA_PUBLIC string Property name. Value and meaning are the SDK's.
+---@field RSA_PRIVATE string Property name. Value and meaning are the SDK's.
+---@field USR_NAME string Property name. Value and meaning are the SDK's.
+---@field SESSION string Property name. Value and meaning are the SDK's.
+---@field LOGIN_CHANNEL string Property name. Value and meaning are the SDK's.
+---@field SPLASH string Property name. Value and meaning are the SDK's.
 
 -- ## Switches and their values
 -- Strings: property names. Integers: their values.
 
 ---@class velora
----@field HAS_SPLASH integer
----@field NOT_HAS_SPLASH integer
----@field DEBUG_MODE string
----@field DEBUG_MODE_TRUE integer
----@field DEBUG_MODE_FALSE integer
----@field DEBUG_LOG string
----@field RETRIEVE_USER string
----@field RETRIEVE_USER_TRUE integer
----@field RETRIEVE_USER_FALSE integer
----@field APP_CHANNEL string
+---@field HAS_SPLASH integer Value of `SPLASH`: there is a splash screen. The value is the SDK's.
+---@field NOT_HAS_SPLASH integer Value of `SPLASH`: there is none. The value is the SDK's.
+---@field DEBUG_MODE string Property name. Value and meaning are the SDK's.
+---@field DEBUG_MODE_TRUE integer Value of `DEBUG_MODE`. Value and meaning are the SDK's.
+---@field DEBUG_MODE_FALSE integer Value of `DEBUG_MODE`. Value and meaning are the SDK's.
+---@field DEBUG_LOG string Property name. Value and meaning are the SDK's.
+---@field RETRIEVE_USER string Property name. Value and meaning are the SDK's.
+---@field RETRIEVE_USER_TRUE integer Value of `RETRIEVE_USER`. Value and meaning are the SDK's.
+---@field RETRIEVE_USER_FALSE integer Value of `RETRIEVE_USER`. Value and meaning are the SDK's.
+---@field APP_CHANNEL string Property name. Value and meaning are the SDK's.
 
 -- ## Caller-thread keys
--- Strings: properties that choose the thread of a listener, one of `LISTENER_CB_*`.
+-- Strings: properties that select the thread of a listener, one of `LISTENER_CB_*`.
 
 ---@class velora
----@field LOGIN_CALLER_THREAD string
----@field WEB_LOGIN_CALLER_THREAD string
----@field LEAVE_SDK_CALLER_THREAD string
----@field LOGOUT_CALLER_THREAD string
----@field ORDER_CALLER_THREAD string
----@field CONTINUE_CALLER_THREAD string
----@field EXIT_CALLER_THREAD string
----@field FRIEND_CALLER_THREAD string
----@field RANK_CALLER_THREAD string
----@field QUEST_CALLER_THREAD string
----@field SHARE_CALLER_THREAD string
----@field QUERYSKUDETAILS_CALLER_THREAD string
----@field CONTROLLER_CALLER_THREAD string
----@field PUSH_CALLER_THREAD string
----@field SHOW_VIEW_THREAD string
----@field WEBVIEW_CALLER_THREAD string
----@field VERIFY_CALLER_THREAD string
----@field CODESCANNER_CALLER_THREAD string
----@field EXTEND_FUNC_CALLER_THREAD string
----@field PROTOCOL_FINISH_CALLER_THREAD string
+---@field LOGIN_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field WEB_LOGIN_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field LEAVE_SDK_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field LOGOUT_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field ORDER_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field CONTINUE_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field EXIT_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field FRIEND_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field RANK_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field QUEST_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field SHARE_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field QUERYSKUDETAILS_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field CONTROLLER_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field PUSH_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field SHOW_VIEW_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field WEBVIEW_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field VERIFY_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field CODESCANNER_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field EXTEND_FUNC_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field PROTOCOL_FINISH_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
 
 -- ## Listener callback threads and FF_COOLPAD
 -- Integers: values of the caller-thread properties, and a payment code.
 
 ---@class velora
----@field LISTENER_CB_CALLER integer
----@field LISTENER_CB_UI integer
----@field LISTENER_CB_GL integer
----@field FF_COOLPAD integer
+---@field LISTENER_CB_CALLER integer Value of a `*_CALLER_THREAD` property. Value and meaning are the SDK's.
+---@field LISTENER_CB_UI integer Value of a `*_CALLER_THREAD` property. Value and meaning are the SDK's.
+---@field LISTENER_CB_GL integer Value of a `*_CALLER_THREAD` property. Value and meaning are the SDK's.
+---@field FF_COOLPAD integer Payment code. Value and meaning are the SDK's.
 
 -- ## Game engine
 -- A property name, a string, and its values, integers.
 
 ---@class velora
----@field GAME_ENGINE string
----@field ENGINE_COCOS integer
----@field ENGINE_UNITY3D integer
----@field ENGINE_TARN integer
----@field ENGINE_UNREAL integer
+---@field GAME_ENGINE string Property name. Value and meaning are the SDK's.
+---@field ENGINE_COCOS integer Value of `GAME_ENGINE`. Value and meaning are the SDK's.
+---@field ENGINE_UNITY3D integer Value of `GAME_ENGINE`. Value and meaning are the SDK's.
+---@field ENGINE_TARN integer Value of `GAME_ENGINE`. Value and meaning are the SDK's.
+---@field ENGINE_UNREAL integer Value of `GAME_ENGINE`. Value and meaning are the SDK's.
 
 -- ## External login switches
 -- Strings: properties that allow a way to log in.
 
 ---@class velora
----@field ENABLE_EXLOGIN_GUEST string
----@field ENABLE_EXLOGIN_GUEST_NEW string
----@field ENABLE_EXLOGIN_WEIBO string
----@field ENABLE_EXLOGIN_WEIBO_NEW string
----@field ENABLE_EXLOGIN_MOBILE string
----@field ENABLE_EXLOGIN_MOBILE_NEW string
----@field ENABLE_EXLOGIN_GOOGLEPLUS string
----@field ENABLE_EXLOGIN_GOOGL string
----@field ENABLE_EXLOGIN_FACEBOOK string
----@field ENABLE_EXLOGIN_NATIVE string
----@field ENABLE_EXLOGIN_WECHAT string
----@field ENABLE_EXLOGIN_QQ string
+---@field ENABLE_EXLOGIN_GUEST string Property that allows a way to log in. Value and meaning are the SDK's.
+---@field ENABLE_EXLOGIN_GUEST_NEW string Property that allows a way to log in. Value and meaning are the SDK's.
+---@field ENABLE_EXLOGIN_WEIBO string Property that allows a way to log in. Value and meaning are the SDK's.
+---@field ENABLE_EXLOGIN_WEIBO_NEW string Property that allows a way to log in. Value and meaning are the SDK's.
+---@field ENABLE_EXLOGIN_MOBILE string Property that allows a way to log in. Value and meaning are the SDK's.
+---@field ENABLE_EXLOGIN_MOBILE_NEW string Property that allows a way to log in. Value and meaning are the SDK's.
+---@field ENABLE_EXLOGIN_GOOGLEPLUS string Property that allows a way to log in. Value and meaning are the SDK's.
+---@field ENABLE_EXLOGIN_GOOGL string Property that allows a way to log in. Value and meaning are the SDK's.
+---@field ENABLE_EXLOGIN_FACEBOOK string Property that allows a way to log in. Value and meaning are the SDK's.
+---@field ENABLE_EXLOGIN_NATIVE string Property that allows a way to log in. Value and meaning are the SDK's.
+---@field ENABLE_EXLOGIN_WECHAT string Property that allows a way to log in. Value and meaning are the SDK's.
+---@field ENABLE_EXLOGIN_QQ string Property that allows a way to log in. Value and meaning are the SDK's.
 
 -- ## Anti-addiction, proxy, friend queries, forum, guest origin, currency and application data
 -- Strings: property names.
 
 ---@class velora
----@field IS_ANTI_ADDICTION string
----@field PROXYSERVER_ADDRESS string
----@field ZV_OAUTH_ACCESS_TOKEN string
----@field ZV_CDN_SERVER string
----@field ZV_LINE_ERROR_CODE string
----@field ZV_QUERY_FRIENDS_START_INDEX string
----@field ZV_QUERY_FRIENDS_COUNT string
----@field ZV_QUERY_FRIENDS_IN_GAME_START_INDEX string
----@field ZV_QUERY_FRIENDS_IN_GAME_COUNT string
----@field ZV_QUERY_FRIENDS_TOTAL string
----@field ZV_QUERY_FRIENDS_IN_GAME_TOTAL string
----@field AVATAR_URL string
----@field FORUM_URL string
----@field FORUM_TITLE string
----@field ORIGIN_GUEST_UID string
----@field ORIGIN_GUEST_SESSION string
----@field CURRENCY string
----@field RATE string
----@field APP_DATA string
----@field APP_LOCATION string
----@field APP_VERSION string
+---@field IS_ANTI_ADDICTION string Property name. Value and meaning are the SDK's.
+---@field PROXYSERVER_ADDRESS string Property name. Value and meaning are the SDK's.
+---@field ZV_OAUTH_ACCESS_TOKEN string Property name. Value and meaning are the SDK's.
+---@field ZV_CDN_SERVER string Property name. Value and meaning are the SDK's.
+---@field ZV_LINE_ERROR_CODE string Property name. Value and meaning are the SDK's.
+---@field ZV_QUERY_FRIENDS_START_INDEX string Property name. Value and meaning are the SDK's.
+---@field ZV_QUERY_FRIENDS_COUNT string Property name. Value and meaning are the SDK's.
+---@field ZV_QUERY_FRIENDS_IN_GAME_START_INDEX string Property name. Value and meaning are the SDK's.
+---@field ZV_QUERY_FRIENDS_IN_GAME_COUNT string Property name. Value and meaning are the SDK's.
+---@field ZV_QUERY_FRIENDS_TOTAL string Property name. Value and meaning are the SDK's.
+---@field ZV_QUERY_FRIENDS_IN_GAME_TOTAL string Property name. Value and meaning are the SDK's.
+---@field AVATAR_URL string Property name. Value and meaning are the SDK's.
+---@field FORUM_URL string Property name. Value and meaning are the SDK's.
+---@field FORUM_TITLE string Property name. Value and meaning are the SDK's.
+---@field ORIGIN_GUEST_UID string Property name. Value and meaning are the SDK's.
+---@field ORIGIN_GUEST_SESSION string Property name. Value and meaning are the SDK's.
+---@field CURRENCY string Property name. Value and meaning are the SDK's.
+---@field RATE string Property name. Value and meaning are the SDK's.
+---@field APP_DATA string Property name. Value and meaning are the SDK's.
+---@field APP_LOCATION string Property name. Value and meaning are the SDK's.
+---@field APP_VERSION string Property name. Value and meaning are the SDK's.
 
 -- ## Splash screen
 -- Strings: property names. Integers: their values.
 
 ---@class velora
----@field SPLASH_COLOR string
----@field SPLASH_TIME string
----@field SPLASH_SECOND string
----@field SPLASH_SECOND_MAXTIME string
----@field SPLASH_TYPE string
----@field SPLASH_TYPE_PNG integer
----@field SPLASH_TYPE_MEDIA integer
----@field SPLASH_PNG_SCALE_TYPE string
----@field SPLASH_PNG_CENTER_INSIDE integer
----@field SPLASH_PNG_CENTER_CROP integer
+---@field SPLASH_COLOR string Property name. Value and meaning are the SDK's.
+---@field SPLASH_TIME string Property name. Value and meaning are the SDK's.
+---@field SPLASH_SECOND string Property name. Value and meaning are the SDK's.
+---@field SPLASH_SECOND_MAXTIME string Property name. Value and meaning are the SDK's.
+---@field SPLASH_TYPE string Property name. Value and meaning are the SDK's.
+---@field SPLASH_TYPE_PNG integer Value of `SPLASH_TYPE`. Value and meaning are the SDK's.
+---@field SPLASH_TYPE_MEDIA integer Value of `SPLASH_TYPE`. Value and meaning are the SDK's.
+---@field SPLASH_PNG_SCALE_TYPE string Property name. Value and meaning are the SDK's.
+---@field SPLASH_PNG_CENTER_INSIDE integer Value of `SPLASH_PNG_SCALE_TYPE`. Value and meaning are the SDK's.
+---@field SPLASH_PNG_CENTER_CROP integer Value of `SPLASH_PNG_SCALE_TYPE`. Value and meaning are the SDK's.
 
 -- ## Floating button position
 -- A property name, a string, and its values, integers.
 
 ---@class velora
----@field FLOAT_BTN_POS string
----@field FLOAT_BTN_POS_LEFT_TOP integer
----@field FLOAT_BTN_POS_LEFT_CENTER integer
----@field FLOAT_BTN_POS_LEFT_BOTTOM integer
----@field FLOAT_BTN_POS_RIGHT_TOP integer
----@field FLOAT_BTN_POS_RIGHT_CENTER integer
----@field FLOAT_BTN_POS_RIGHT_BOTTOM integer
----@field FLOAT_BTN_POS_CENTER_TOP integer
----@field FLOAT_BTN_POS_CENTER_BOTTOM integer
+---@field FLOAT_BTN_POS string Property name. Value and meaning are the SDK's.
+---@field FLOAT_BTN_POS_LEFT_TOP integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
+---@field FLOAT_BTN_POS_LEFT_CENTER integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
+---@field FLOAT_BTN_POS_LEFT_BOTTOM integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
+---@field FLOAT_BTN_POS_RIGHT_TOP integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
+---@field FLOAT_BTN_POS_RIGHT_CENTER integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
+---@field FLOAT_BTN_POS_RIGHT_BOTTOM integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
+---@field FLOAT_BTN_POS_CENTER_TOP integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
+---@field FLOAT_BTN_POS_CENTER_BOTTOM integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
 
 -- ## FFTYPE, LIANYUN, SINGLE_CB, MONTHTYPE and role keys
 -- Strings: property names and values of `MONTHTYPE`. Integers: values of `FFTYPE`.
 
 ---@class velora
----@field FFTYPE string
----@field FFTYPE_STANDALONE integer
----@field FFTYPE_ONLINE integer
----@field LIANYUN string
----@field SINGLE_CB string
----@field MONTHTYPE string
----@field MONTHTYPE_OTHER string
----@field MONTHTYPE_SUBMONTH string
----@field MONTHTYPE_UNSUBMONTH string
----@field GAME_INNER_SWITCH_USER string
----@field CPCODE string
----@field CREATE_ROLE string
+---@field FFTYPE string Property name. Value and meaning are the SDK's.
+---@field FFTYPE_STANDALONE integer Value of `FFTYPE`. Value and meaning are the SDK's.
+---@field FFTYPE_ONLINE integer Value of `FFTYPE`. Value and meaning are the SDK's.
+---@field LIANYUN string Property name. Value and meaning are the SDK's.
+---@field SINGLE_CB string Property name. Value and meaning are the SDK's.
+---@field MONTHTYPE string Property name. Value and meaning are the SDK's.
+---@field MONTHTYPE_OTHER string Value of `MONTHTYPE`. Value and meaning are the SDK's.
+---@field MONTHTYPE_SUBMONTH string Value of `MONTHTYPE`. Value and meaning are the SDK's.
+---@field MONTHTYPE_UNSUBMONTH string Value of `MONTHTYPE`. Value and meaning are the SDK's.
+---@field GAME_INNER_SWITCH_USER string Property name. Value and meaning are the SDK's.
+---@field CPCODE string Property name. Value and meaning are the SDK's.
+---@field CREATE_ROLE string Property name. Value and meaning are the SDK's.
 
 -- ## Login and bind type, social application keys, single sign-on checks
 -- Strings: property names.
 
 ---@class velora
----@field LOGIN_TYPE string
----@field BIND_TYPE string
----@field AUTH_CHANNEL string
----@field WEIBO_SSO_APP_KEY string
----@field WEIBO_APP_KEY string
----@field WEIBO_SSO_URL string
----@field WEIBO_REDIRECT_URI string
----@field SHARE_PELIA_API string
----@field SHARE_WEIXIN_API string
----@field WECHAT_APP_KEY string
----@field SHARE_WEIBO_API string
----@field SHARE_QQ_API string
----@field QQ_APP_ID string
----@field SHARE_XIANLIAO_API string
----@field SHIP_SINAWEIBO_SSO_CHECK string
----@field SHIP_WEIXIN_SSO_CHECK string
----@field SHIP_QQ_SSO_CHECK string
----@field SHIP_PELIA_SSO_CHECK string
----@field SHIP_XIANLIAO_SSO_CHECK string
----@field SHIP_DOUYIN_SSO_CHECK string
----@field FF_METHOD string
----@field DOUYIN_CLIENT_KEY string
----@field ENABLE_NAVIGATION_BAR string
----@field ENABLE_FORCE_DOWNLOAD string
+---@field LOGIN_TYPE string Property name. Value and meaning are the SDK's.
+---@field BIND_TYPE string Property name. Value and meaning are the SDK's.
+---@field AUTH_CHANNEL string Property name. Value and meaning are the SDK's.
+---@field WEIBO_SSO_APP_KEY string Property name. Value and meaning are the SDK's.
+---@field WEIBO_APP_KEY string Property name. Value and meaning are the SDK's.
+---@field WEIBO_SSO_URL string Property name. Value and meaning are the SDK's.
+---@field WEIBO_REDIRECT_URI string Property name. Value and meaning are the SDK's.
+---@field SHARE_PELIA_API string Property name. Value and meaning are the SDK's.
+---@field SHARE_WEIXIN_API string Property name. Value and meaning are the SDK's.
+---@field WECHAT_APP_KEY string Property name. Value and meaning are the SDK's.
+---@field SHARE_WEIBO_API string Property name. Value and meaning are the SDK's.
+---@field SHARE_QQ_API string Property name. Value and meaning are the SDK's.
+---@field QQ_APP_ID string Property name. Value and meaning are the SDK's.
+---@field SHARE_XIANLIAO_API string Property name. Value and meaning are the SDK's.
+---@field SHIP_SINAWEIBO_SSO_CHECK string Property name. Value and meaning are the SDK's.
+---@field SHIP_WEIXIN_SSO_CHECK string Property name. Value and meaning are the SDK's.
+---@field SHIP_QQ_SSO_CHECK string Property name. Value and meaning are the SDK's.
+---@field SHIP_PELIA_SSO_CHECK string Property name. Value and meaning are the SDK's.
+---@field SHIP_XIANLIAO_SSO_CHECK string Property name. Value and meaning are the SDK's.
+---@field SHIP_DOUYIN_SSO_CHECK string Property name. Value and meaning are the SDK's.
+---@field FF_METHOD string Property name. Value and meaning are the SDK's.
+---@field DOUYIN_CLIENT_KEY string Property name. Value and meaning are the SDK's.
+---@field ENABLE_NAVIGATION_BAR string Property name. Value and meaning are the SDK's.
+---@field ENABLE_FORCE_DOWNLOAD string Property name. Value and meaning are the SDK's.
 
 -- ## Launcher, advertising, carrier and external channel
--- Strings: property names. `CCTYPE_*` are to compare with `getCCTypeByImsi`, `CHANNEL_UNKNOW` an unknown channel.
+-- Strings: property names, carriers (`CCTYPE_*`), to compare with `getCCTypeByImsi`, and `CHANNEL_UNKNOW`.
 
 ---@class velora
----@field LAUNCHER_NAME string
----@field APPSFLYER_DEV_KEY string
----@field ADVERTISER_APPID string
----@field TIMELINE_KEY string
----@field CHANNEL_UNKNOW string
----@field CCTYPE_UNKNOW string
----@field CCTYPE_CMCC string
----@field CCTYPE_CUCC string
----@field CCTYPE_CTCC string
----@field EXTERNAL_CHANNEL string
----@field EXTERNAL_OP_LIST string
----@field EXTRA_DATA string
----@field TIMESTAMP string
----@field PLATFORM_KEY string
+---@field LAUNCHER_NAME string Property name. Value and meaning are the SDK's.
+---@field APPSFLYER_DEV_KEY string Property name. Value and meaning are the SDK's.
+---@field ADVERTISER_APPID string Property name. Value and meaning are the SDK's.
+---@field TIMELINE_KEY string Property name. Value and meaning are the SDK's.
+---@field CHANNEL_UNKNOW string An unknown channel. The value is the SDK's.
+---@field CCTYPE_UNKNOW string Carrier, to compare with `getCCTypeByImsi`: unknown. The value is the SDK's.
+---@field CCTYPE_CMCC string Carrier, to compare with `getCCTypeByImsi`. Value and meaning are the SDK's.
+---@field CCTYPE_CUCC string Carrier, to compare with `getCCTypeByImsi`. Value and meaning are the SDK's.
+---@field CCTYPE_CTCC string Carrier, to compare with `getCCTypeByImsi`. Value and meaning are the SDK's.
+---@field EXTERNAL_CHANNEL string Property name. Value and meaning are the SDK's.
+---@field EXTERNAL_OP_LIST string Property name. Value and meaning are the SDK's.
+---@field EXTRA_DATA string Property name. Value and meaning are the SDK's.
+---@field TIMESTAMP string Property name. Value and meaning are the SDK's.
+---@field PLATFORM_KEY string Property name. Value and meaning are the SDK's.
 
 -- ## Game regions
 -- Strings: the property `GAME_REGION` and its values.
 
 ---@class velora
----@field GAME_REGION string
----@field GAME_REGION_CN string
----@field GAME_REGION_AS string
----@field GAME_REGION_US string
----@field GAME_REGION_SA string
----@field GAME_REGION_JP string
+---@field GAME_REGION string Property name. Value and meaning are the SDK's.
+---@field GAME_REGION_CN string Value of `GAME_REGION`. Value and meaning are the SDK's.
+---@field GAME_REGION_AS string Value of `GAME_REGION`. Value and meaning are the SDK's.
+---@field GAME_REGION_US string Value of `GAME_REGION`. Value and meaning are the SDK's.
+---@field GAME_REGION_SA string Value of `GAME_REGION`. Value and meaning are the SDK's.
+---@field GAME_REGION_JP string Value of `GAME_REGION`. Value and meaning are the SDK's.
 
 -- ## Languages
 -- Strings: values of `LANGUAGE_CODE`, and two more property names.
 
 ---@class velora
----@field LANGUAGE_CODE_ZH_CN string
----@field LANGUAGE_CODE_ZH_HK string
----@field LANGUAGE_CODE_ZH_TW string
----@field LANGUAGE_CODE_EN string
----@field LANGUAGE_CODE_ES_EUR string
----@field LANGUAGE_CODE_ES string
----@field LANGUAGE_CODE_PT_EUR string
----@field LANGUAGE_CODE_PT string
----@field LANGUAGE_CODE_AR string
----@field LANGUAGE_CODE_DE string
----@field LANGUAGE_CODE_FR string
----@field LANGUAGE_CODE_IN string
----@field LANGUAGE_CODE_IT string
----@field LANGUAGE_CODE_JA string
----@field LANGUAGE_CODE_KO string
----@field LANGUAGE_CODE_MS string
----@field LANGUAGE_CODE_NL string
----@field LANGUAGE_CODE_RU string
----@field LANGUAGE_CODE_TH string
----@field LANGUAGE_CODE_VI string
----@field LANGUAGE_CODE_AUTO string
----@field GAME_SELECT_LANGUAGE string
----@field GAME_SUPPORT_LANGUAGE string
+---@field LANGUAGE_CODE_ZH_CN string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_ZH_HK string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_ZH_TW string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_EN string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_ES_EUR string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_ES string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_PT_EUR string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_PT string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_AR string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_DE string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_FR string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_IN string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_IT string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_JA string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_KO string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_MS string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_NL string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_RU string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_TH string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_VI string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_AUTO string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
+---@field GAME_SELECT_LANGUAGE string Property name. Value and meaning are the SDK's.
+---@field GAME_SUPPORT_LANGUAGE string Property name. Value and meaning are the SDK's.
 
 -- ## Inner modes, data report mode, product and package
 -- Strings: property names. Integers: values of `DATA_REPORT_MODE`.
 
 ---@class velora
----@field INNER_MODE_SECOND_CHANNEL string
----@field INNER_MODE_SPECIAL_LOGIN_CHANNEL string
----@field CALL_LIFECYCLE_AFTER_INIT string
----@field DK_APPID string
----@field DK_APP_KEY string
----@field DATA_REPORT_MODE string
----@field DATA_REPORT_MODE_DEFAULT integer
----@field DATA_REPORT_MODE_AFTER_LOGIN integer
----@field PRODUCT_NAME_PREFIX string
----@field PACKAGE_URL string
----@field HAS_3N string
----@field FF_TOKEN string
----@field PF string
----@field PFKEY string
+---@field INNER_MODE_SECOND_CHANNEL string Property name. Value and meaning are the SDK's.
+---@field INNER_MODE_SPECIAL_LOGIN_CHANNEL string Property name. Value and meaning are the SDK's.
+---@field CALL_LIFECYCLE_AFTER_INIT string Property name. Value and meaning are the SDK's.
+---@field DK_APPID string Property name. Value and meaning are the SDK's.
+---@field DK_APP_KEY string Property name. Value and meaning are the SDK's.
+---@field DATA_REPORT_MODE string Property name. Value and meaning are the SDK's.
+---@field DATA_REPORT_MODE_DEFAULT integer Value of `DATA_REPORT_MODE`. Value and meaning are the SDK's.
+---@field DATA_REPORT_MODE_AFTER_LOGIN integer Value of `DATA_REPORT_MODE`. Value and meaning are the SDK's.
+---@field PRODUCT_NAME_PREFIX string Property name. Value and meaning are the SDK's.
+---@field PACKAGE_URL string Property name. Value and meaning are the SDK's.
+---@field HAS_3N string Property name. Value and meaning are the SDK's.
+---@field FF_TOKEN string Property name. Value and meaning are the SDK's.
+---@field PF string Property name. Value and meaning are the SDK's.
+---@field PFKEY string Property name. Value and meaning are the SDK's.
 
 -- ## Domain and social application ids
 -- Strings: property names.
 
 ---@class velora
----@field VELORA_DOMAIN string
----@field QQ_APPID string
----@field QQ_APP_KEY string
----@field WX_APPID string
----@field WX_APP_KEY string
----@field OFFER_ID string
+---@field VELORA_DOMAIN string Property name. Value and meaning are the SDK's.
+---@field QQ_APPID string Property name. Value and meaning are the SDK's.
+---@field QQ_APP_KEY string Property name. Value and meaning are the SDK's.
+---@field WX_APPID string Property name. Value and meaning are the SDK's.
+---@field WX_APP_KEY string Property name. Value and meaning are the SDK's.
+---@field OFFER_ID string Property name. Value and meaning are the SDK's.
 
 -- ## Verification, language, country, user and store
 -- Strings: property names.
 
 ---@class velora
----@field VERIFY_MODE string
----@field LANGUAGE_CODE string
----@field COUNTRY_CODE string
----@field USER_TYPE string
----@field USER_KEY string
----@field VERIFY_TYPE string
----@field STORE_TYPE string
----@field PURCHASE_REG_SERVER string
+---@field VERIFY_MODE string Property name. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE string Property name. Value and meaning are the SDK's.
+---@field COUNTRY_CODE string Property name. Value and meaning are the SDK's.
+---@field USER_TYPE string Property name. Value and meaning are the SDK's.
+---@field USER_KEY string Property name. Value and meaning are the SDK's.
+---@field VERIFY_TYPE string Property name. Value and meaning are the SDK's.
+---@field STORE_TYPE string Property name. Value and meaning are the SDK's.
+---@field PURCHASE_REG_SERVER string Property name. Value and meaning are the SDK's.
 
 -- ## SDK server, order addresses and logging
 -- Strings: property names.
 
 ---@class velora
----@field REQUEST_VELORA_SERVER string
----@field VELORA_SERVER_KEY string
----@field VELORA_CREATEORDER_URL string
----@field VELORA_QUERYORDER_URL string
----@field VELORA_CONSUMEORDER_URL string
----@field VELORA_SERVER_PRIVATEPARAM string
----@field VELORA_SERVER_EXTPARAM string
----@field VELORA_EXT_INFO string
----@field CHANNEL_EXT_INFO string
----@field ENABLE_GOOGE_PLAY_PROMO_CODES string
----@field ENABLE_KAKAO_GAME_SHOP string
----@field VELORA_JF_TIMEOUT string
----@field VELORA_JF_GAS3 string
----@field VELORA_JF_GAS3_WEB string
----@field VELORA_JF_CREATEINDEX string
----@field VELORA_JF_GAS3_URL string
----@field VELORA_SERVER_MODE string
----@field SHARE_ERR_CODE string
----@field JF_OPEN_LOG_URL string
----@field JF_FF_LOG_URL string
----@field VELORA_LOG_STATUS string
----@field JF_CLIENT_LOG_URL string
----@field JF_LOG_KEY string
----@field JF_CLIENT_KEY string
----@field JF_GAMEID string
----@field XM_GAMEID string
----@field YY_GAMEID string
----@field HAS_FF_CB string
----@field NEED_PLAY_GAME_SERVICE string
----@field VELORA_SERVER_URL string
----@field CODE_SCANNER_FF_URL string
----@field ENABLE_VELORA_GUEST_DISCONNECT string
----@field ENABLE_VELORA_GUEST_UI string
----@field ENABLE_VELORA_PERMISSION_UI string
----@field ZV_CALLBACK_MESSAGE string
----@field MINI_RESPONSE string
----@field ZV_ERROR_CODE string
----@field SUCCESS_ACTIVITY_CALSSS string
----@field FAIL_ACTIVITY_CALSSS string
----@field FLOATBTN_CLOSED string
----@field UPDATE_CHECK_URL string
----@field UPDATE_DOWNLOAD_URL string
----@field ZV_COMPACT_URL string
----@field ZV_COMPACT_LAN string
----@field ZV_COMPACT_SHOW_AGREE_LINE string
----@field ZV_COMPACT_AGREE_LINE_TEXT string
----@field ENABLE_TV string
----@field SAUTH_STR string
----@field SAUTH_JSON string
----@field VELORA_JF_GAS_TOKEN string
----@field VELORA_JF_GET_SDKUID string
+---@field REQUEST_VELORA_SERVER string Property name. Value and meaning are the SDK's.
+---@field VELORA_SERVER_KEY string Property name. Value and meaning are the SDK's.
+---@field VELORA_CREATEORDER_URL string Property name. Value and meaning are the SDK's.
+---@field VELORA_QUERYORDER_URL string Property name. Value and meaning are the SDK's.
+---@field VELORA_CONSUMEORDER_URL string Property name. Value and meaning are the SDK's.
+---@field VELORA_SERVER_PRIVATEPARAM string Property name. Value and meaning are the SDK's.
+---@field VELORA_SERVER_EXTPARAM string Property name. Value and meaning are the SDK's.
+---@field VELORA_EXT_INFO string Property name. Value and meaning are the SDK's.
+---@field CHANNEL_EXT_INFO string Property name. Value and meaning are the SDK's.
+---@field ENABLE_GOOGE_PLAY_PROMO_CODES string Property name. Value and meaning are the SDK's.
+---@field ENABLE_KAKAO_GAME_SHOP string Property name. Value and meaning are the SDK's.
+---@field VELORA_JF_TIMEOUT string Property name. Value and meaning are the SDK's.
+---@field VELORA_JF_GAS3 string Property name. Value and meaning are the SDK's.
+---@field VELORA_JF_GAS3_WEB string Property name. Value and meaning are the SDK's.
+---@field VELORA_JF_CREATEINDEX string Property name. Value and meaning are the SDK's.
+---@field VELORA_JF_GAS3_URL string Property name. Value and meaning are the SDK's.
+---@field VELORA_SERVER_MODE string Property name. Value and meaning are the SDK's.
+---@field SHARE_ERR_CODE string Property name. Value and meaning are the SDK's.
+---@field JF_OPEN_LOG_URL string Property name. Value and meaning are the SDK's.
+---@field JF_FF_LOG_URL string Property name. Value and meaning are the SDK's.
+---@field VELORA_LOG_STATUS string Property name. Value and meaning are the SDK's.
+---@field JF_CLIENT_LOG_URL string Property name. Value and meaning are the SDK's.
+---@field JF_LOG_KEY string Property name. Value and meaning are the SDK's.
+---@field JF_CLIENT_KEY string Property name. Value and meaning are the SDK's.
+---@field JF_GAMEID string Property name. Value and meaning are the SDK's.
+---@field XM_GAMEID string Property name. Value and meaning are the SDK's.
+---@field YY_GAMEID string Property name. Value and meaning are the SDK's.
+---@field HAS_FF_CB string Property name. Value and meaning are the SDK's.
+---@field NEED_PLAY_GAME_SERVICE string Property name. Value and meaning are the SDK's.
+---@field VELORA_SERVER_URL string Property name. Value and meaning are the SDK's.
+---@field CODE_SCANNER_FF_URL string Property name. Value and meaning are the SDK's.
+---@field ENABLE_VELORA_GUEST_DISCONNECT string Property name. Value and meaning are the SDK's.
+---@field ENABLE_VELORA_GUEST_UI string Property name. Value and meaning are the SDK's.
+---@field ENABLE_VELORA_PERMISSION_UI string Property name. Value and meaning are the SDK's.
+---@field ZV_CALLBACK_MESSAGE string Property name. Value and meaning are the SDK's.
+---@field MINI_RESPONSE string Property name. Value and meaning are the SDK's.
+---@field ZV_ERROR_CODE string Property name. Value and meaning are the SDK's.
+---@field SUCCESS_ACTIVITY_CALSSS string Property name. Value and meaning are the SDK's.
+---@field FAIL_ACTIVITY_CALSSS string Property name. Value and meaning are the SDK's.
+---@field FLOATBTN_CLOSED string Property name. Value and meaning are the SDK's.
+---@field UPDATE_CHECK_URL string Property name. Value and meaning are the SDK's.
+---@field UPDATE_DOWNLOAD_URL string Property name. Value and meaning are the SDK's.
+---@field ZV_COMPACT_URL string Property name. Value and meaning are the SDK's.
+---@field ZV_COMPACT_LAN string Property name. Value and meaning are the SDK's.
+---@field ZV_COMPACT_SHOW_AGREE_LINE string Property name. Value and meaning are the SDK's.
+---@field ZV_COMPACT_AGREE_LINE_TEXT string Property name. Value and meaning are the SDK's.
+---@field ENABLE_TV string Property name. Value and meaning are the SDK's.
+---@field SAUTH_STR string Property name. Value and meaning are the SDK's.
+---@field SAUTH_JSON string Property name. Value and meaning are the SDK's.
+---@field VELORA_JF_GAS_TOKEN string Property name. Value and meaning are the SDK's.
+---@field VELORA_JF_GET_SDKUID string Property name. Value and meaning are the SDK's.
 
 -- ## Device report fields
 -- Strings: names of the fields of a device report.
 
 ---@class velora
----@field SDC_LOG_DEVICE_HEIGHT string
----@field SDC_LOG_DEVICE_WIDTH string
----@field SDC_LOG_OS_NAME string
----@field SDC_LOG_OS_VER string
----@field SDC_LOG_MAC_ADDR string
----@field SDC_LOG_DEVICE_MODEL string
----@field SDC_LOG_UDID string
----@field SDC_LOG_APP_CHANNEL string
----@field SDC_LOG_APP_VER string
----@field SDC_LOG_APP_NETWORK string
----@field SDC_LOG_APP_ISP string
+---@field SDC_LOG_DEVICE_HEIGHT string Field of a device report. Value and meaning are the SDK's.
+---@field SDC_LOG_DEVICE_WIDTH string Field of a device report. Value and meaning are the SDK's.
+---@field SDC_LOG_OS_NAME string Field of a device report. Value and meaning are the SDK's.
+---@field SDC_LOG_OS_VER string Field of a device report. Value and meaning are the SDK's.
+---@field SDC_LOG_MAC_ADDR string Field of a device report. Value and meaning are the SDK's.
+---@field SDC_LOG_DEVICE_MODEL string Field of a device report. Value and meaning are the SDK's.
+---@field SDC_LOG_UDID string Field of a device report. Value and meaning are the SDK's.
+---@field SDC_LOG_APP_CHANNEL string Field of a device report. Value and meaning are the SDK's.
+---@field SDC_LOG_APP_VER string Field of a device report. Value and meaning are the SDK's.
+---@field SDC_LOG_APP_NETWORK string Field of a device report. Value and meaning are the SDK's.
+---@field SDC_LOG_APP_ISP string Field of a device report. Value and meaning are the SDK's.
 
 -- ## Skins, web view background, overseas log addresses
 -- Strings: property names, and values of `SKIN_TYPE` and `WEBVIEW_BKCOLOR`.
 
 ---@class velora
----@field SKIN_TYPE string
----@field SKIN_BLACK string
----@field SKIN_DEFAULT string
----@field SKIN_CHINESE_WHITE string
----@field SKIN_CHINESE_BLACK string
----@field WEBVIEW_BKCOLOR string
----@field WEBVIEW_BKCOLOR_WHITE string
----@field WEBVIEW_BKCOLOR_TRANSPARENT string
----@field VELORA_DRPF_URL string
----@field JF_OVERSEA_FF_LOG_URL string
----@field JF_OVERSEA_OPEN_LOG_URL string
----@field JF_OVERSEA_CLIENT_LOG_URL string
+---@field SKIN_TYPE string Property name. Value and meaning are the SDK's.
+---@field SKIN_BLACK string Value of `SKIN_TYPE`. Value and meaning are the SDK's.
+---@field SKIN_DEFAULT string Value of `SKIN_TYPE`. Value and meaning are the SDK's.
+---@field SKIN_CHINESE_WHITE string Value of `SKIN_TYPE`. Value and meaning are the SDK's.
+---@field SKIN_CHINESE_BLACK string Value of `SKIN_TYPE`. Value and meaning are the SDK's.
+---@field WEBVIEW_BKCOLOR string Property name. Value and meaning are the SDK's.
+---@field WEBVIEW_BKCOLOR_WHITE string Value of `WEBVIEW_BKCOLOR`. Value and meaning are the SDK's.
+---@field WEBVIEW_BKCOLOR_TRANSPARENT string Value of `WEBVIEW_BKCOLOR`. Value and meaning are the SDK's.
+---@field VELORA_DRPF_URL string Property name. Value and meaning are the SDK's.
+---@field JF_OVERSEA_FF_LOG_URL string Property name. Value and meaning are the SDK's.
+---@field JF_OVERSEA_OPEN_LOG_URL string Property name. Value and meaning are the SDK's.
+---@field JF_OVERSEA_CLIENT_LOG_URL string Property name. Value and meaning are the SDK's.
 
 -- ## Patch service and real-name verification
 -- Strings: property names. Integers: values of `REAL_NAME_VERIFIED`.
 
 ---@class velora
----@field EB string
----@field VELORA_VELPATCH_CHECK_URL string
----@field VELORA_VELPATCH_LOG_URL string
----@field REAL_NAME_VERIFIED string
----@field REAL_NAME_VERIFIED_NO integer
----@field REAL_NAME_VERIFIED_UNDER_18 integer
----@field REAL_NAME_VERIFIED_18_AND_ABOVE integer
----@field REAL_NAME_VERIFIED_AND_STATUS_UNKNOWN integer
+---@field EB string Property name. Value and meaning are the SDK's.
+---@field VELORA_VELPATCH_CHECK_URL string Property name. Value and meaning are the SDK's.
+---@field VELORA_VELPATCH_LOG_URL string Property name. Value and meaning are the SDK's.
+---@field REAL_NAME_VERIFIED string Property name. Value and meaning are the SDK's.
+---@field REAL_NAME_VERIFIED_NO integer Value of `REAL_NAME_VERIFIED`. Value and meaning are the SDK's.
+---@field REAL_NAME_VERIFIED_UNDER_18 integer Value of `REAL_NAME_VERIFIED`. Value and meaning are the SDK's.
+---@field REAL_NAME_VERIFIED_18_AND_ABOVE integer Value of `REAL_NAME_VERIFIED`. Value and meaning are the SDK's.
+---@field REAL_NAME_VERIFIED_AND_STATUS_UNKNOWN integer Value of `REAL_NAME_VERIFIED`. Value and meaning are the SDK's.
 
 -- ## Detection, location service, SDK switcher, VESPERA, web view options, welcome window
 -- Strings: property names. Integers: values of `WELCOME_WINDOW_TYPE`.
 
 ---@class velora
----@field NOT_ENABLE_DETECT string
----@field X_LBS_TOKEN string
----@field VELORA_LBS_URL string
----@field SDK_SWITCHER_URL string
----@field SDK_SWITCHER_URL_DEFAULT string
----@field SDK_SWITCHER_DATA string
----@field VESPERA_URL string
----@field VESPERA_TID string
----@field VESPERA_SERVERLIST string
----@field VESPERA_APPVER string
----@field VESPERA_USR_AVATARID string
----@field VESPERA_USR_STATUS string
----@field VESPERA_CUSTOM_LOG string
----@field WEBVIEW_CLBTN string
----@field WEBVIEW_FULLFIT string
----@field WEBVIEW_SUPPORT_BACK_KEY string
----@field CLEAR_FOCUS_WHEN_STARTUP string
----@field WELCOME_WINDOW_TYPE string
----@field WELCOME_WINDOW_TYPE_DEFAULT integer
----@field WELCOME_WINDOW_TYPE_TOAST integer
----@field WELCOME_WINDOW_TYPE_NONE integer
+---@field NOT_ENABLE_DETECT string Property name. Value and meaning are the SDK's.
+---@field X_LBS_TOKEN string Property name. Value and meaning are the SDK's.
+---@field VELORA_LBS_URL string Property name. Value and meaning are the SDK's.
+---@field SDK_SWITCHER_URL string Property name. Value and meaning are the SDK's.
+---@field SDK_SWITCHER_URL_DEFAULT string Property name. Value and meaning are the SDK's.
+---@field SDK_SWITCHER_DATA string Property name. Value and meaning are the SDK's.
+---@field VESPERA_URL string Property name. Value and meaning are the SDK's.
+---@field VESPERA_TID string Property name. Value and meaning are the SDK's.
+---@field VESPERA_SERVERLIST string Property name. Value and meaning are the SDK's.
+---@field VESPERA_APPVER string Property name. Value and meaning are the SDK's.
+---@field VESPERA_USR_AVATARID string Property name. Value and meaning are the SDK's.
+---@field VESPERA_USR_STATUS string Property name. Value and meaning are the SDK's.
+---@field VESPERA_CUSTOM_LOG string Property name. Value and meaning are the SDK's.
+---@field WEBVIEW_CLBTN string Property name. Value and meaning are the SDK's.
+---@field WEBVIEW_FULLFIT string Property name. Value and meaning are the SDK's.
+---@field WEBVIEW_SUPPORT_BACK_KEY string Property name. Value and meaning are the SDK's.
+---@field CLEAR_FOCUS_WHEN_STARTUP string Property name. Value and meaning are the SDK's.
+---@field WELCOME_WINDOW_TYPE string Property name. Value and meaning are the SDK's.
+---@field WELCOME_WINDOW_TYPE_DEFAULT integer Value of `WELCOME_WINDOW_TYPE`. Value and meaning are the SDK's.
+---@field WELCOME_WINDOW_TYPE_TOAST integer Value of `WELCOME_WINDOW_TYPE`. Value and meaning are the SDK's.
+---@field WELCOME_WINDOW_TYPE_NONE integer Value of `WELCOME_WINDOW_TYPE`. Value and meaning are the SDK's.
 
 -- ## Permissions, login data, flow, device utilities, source, screen size, guest account
--- Strings: property names, and names of what device utilities can be asked for.
+-- Strings: property names, and names of device utilities.
 
 ---@class velora
----@field REMOVE_PERMISSION_LIST string
----@field VELORA_LOGIN_JSON string
----@field FLOW_CODE string
----@field FLOW_KEY string
----@field USERINFO_NUMBER string
----@field TRANS_ID string
----@field VESPERA_DUMPID string
----@field MEDIA_PROJECTION_MANAGER_IN_USE string
----@field VELORAUTILS_GET_CPUNAME string
----@field VELORAUTILS_GET_CPUMHZ string
----@field VELORAUTILS_GET_CPUCORE string
----@field VELORAUTILS_IS_DEVICEROOTED3 string
----@field VELORA_QRCODE_FILE string
----@field SOURCE_APP_CHANNEL string
----@field SOURCE_PLATFORM string
----@field PRI_SAC string
----@field PRI_SP string
----@field VELORA_WIDTH string
----@field VELORA_HEIGHT string
----@field VELORA_GUEST_LOGIN_STATE string
----@field VELORA_HAS_LOCAL_GUEST_ACCOUNT string
----@field GUEST_RECOVERY_CODE string
----@field GUEST_BIND_JSON string
+---@field REMOVE_PERMISSION_LIST string Property name. Value and meaning are the SDK's.
+---@field VELORA_LOGIN_JSON string Property name. Value and meaning are the SDK's.
+---@field FLOW_CODE string Property name. Value and meaning are the SDK's.
+---@field FLOW_KEY string Property name. Value and meaning are the SDK's.
+---@field USERINFO_NUMBER string Property name. Value and meaning are the SDK's.
+---@field TRANS_ID string Property name. Value and meaning are the SDK's.
+---@field VESPERA_DUMPID string Property name. Value and meaning are the SDK's.
+---@field MEDIA_PROJECTION_MANAGER_IN_USE string Property name. Value and meaning are the SDK's.
+---@field VELORAUTILS_GET_CPUNAME string Name of a device utility. Value and meaning are the SDK's.
+---@field VELORAUTILS_GET_CPUMHZ string Name of a device utility. Value and meaning are the SDK's.
+---@field VELORAUTILS_GET_CPUCORE string Name of a device utility. Value and meaning are the SDK's.
+---@field VELORAUTILS_IS_DEVICEROOTED3 string Name of a device utility. Value and meaning are the SDK's.
+---@field VELORA_QRCODE_FILE string Property name. Value and meaning are the SDK's.
+---@field SOURCE_APP_CHANNEL string Property name. Value and meaning are the SDK's.
+---@field SOURCE_PLATFORM string Property name. Value and meaning are the SDK's.
+---@field PRI_SAC string Property name. Value and meaning are the SDK's.
+---@field PRI_SP string Property name. Value and meaning are the SDK's.
+---@field VELORA_WIDTH string Property name. Value and meaning are the SDK's.
+---@field VELORA_HEIGHT string Property name. Value and meaning are the SDK's.
+---@field VELORA_GUEST_LOGIN_STATE string Property name. Value and meaning are the SDK's.
+---@field VELORA_HAS_LOCAL_GUEST_ACCOUNT string Property name. Value and meaning are the SDK's.
+---@field GUEST_RECOVERY_CODE string Property name. Value and meaning are the SDK's.
+---@field GUEST_BIND_JSON string Property name. Value and meaning are the SDK's.
 
 -- ## Project, product, server address, order UI, QR scanner, IPv6
 -- Strings: property names.
 
 ---@class velora
----@field PROJECT_ID string
----@field PRODUCT_CODE string
----@field SDK_SERVER_URL string
----@field ENABLE_VELORA_CREATEORDER_UI string
----@field ENABLE_CHANNEL_QRCODESCANNER string
----@field JF_AIM_INFO string
----@field ENABLE_IP_V6 string
+---@field PROJECT_ID string Property name. Value and meaning are the SDK's.
+---@field PRODUCT_CODE string Property name. Value and meaning are the SDK's.
+---@field SDK_SERVER_URL string Property name. Value and meaning are the SDK's.
+---@field ENABLE_VELORA_CREATEORDER_UI string Property name. Value and meaning are the SDK's.
+---@field ENABLE_CHANNEL_QRCODESCANNER string Property name. Value and meaning are the SDK's.
+---@field JF_AIM_INFO string Property name. Value and meaning are the SDK's.
+---@field ENABLE_IP_V6 string Property name. Value and meaning are the SDK's.

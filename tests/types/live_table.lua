@@ -1,5 +1,6 @@
--- Holds the annotation files against the live tables: every name, kind and fixed value; what each callback receives;
--- what each function takes and gives. Arguments are made from the annotated types, so a wrong type is refused.
+-- Compares the annotation files with the live tables: every name, kind, description and fixed value; what each callback
+-- receives; what each function takes and returns. Arguments are made from the annotated types, so a wrong type is
+-- refused.
 local annotations = dofile("types/annotations.lua")
 local items = annotations.read("types/velora.lua")
 local globals = annotations.globals(items)
@@ -29,13 +30,13 @@ for _, item in ipairs(items) do
   if item.kind == "class" and item.name == "velora.SyncDownloadHandler" then structures[item.name] = item.fields end
 end
 
--- The class table that a type names.
+-- Returns the class table that a type names.
 local function classOf(type)
   local name = type:match("^velora%.(%w+)$")
   return name and velora[name]
 end
 
--- A value of an annotated type. `object` makes one of a class, from the class's name.
+-- Returns a value of an annotated type. `object` makes one of a class, from the class's name.
 local function sample(type, object)
   type = (aliases[type] or type):gsub("%?$", ""):match("^[^|]+")
   if aliases[type] then return sample(aliases[type], object) end
@@ -82,10 +83,11 @@ local function compare(path, described, live)
     local value = live[name]
     if member.fields then
       if type(value) == "table" then compare(path .. name .. ".", member.fields, value)
-      else fail("%s%s is no table", path, name) end
+      else fail("%s%s is not a table", path, name) end
     elseif not (member.type and fits(value, member.type) or not member.type and type(value) == "function") then
       fail("%s%s is %s, described as %s", path, name, value, member.type or "a function")
     end
+    if member.text == "" then fail("%s%s has no description", path, name) end
     count("names of " .. path:match("^%w*"))
   end
   for name in sortedPairs(live) do
@@ -93,7 +95,7 @@ local function compare(path, described, live)
   end
 end
 
--- A record as offline.post takes it: each field of the class with a value of its getter's type.
+-- Returns a record as offline.post takes it: each field of the class with a value of its getter's type.
 local function record(class)
   local fields = {}
   for name, member in pairs(globals.velora.fields[class].fields) do
@@ -103,7 +105,7 @@ local function record(class)
   return fields
 end
 
--- `received` is what came for a full payload, `bare` what came for none. Nil comes for none, and where it is described.
+-- `received` came with a full payload, `bare` with none. A described nil must come with none, and only then.
 local function compareReceived(name, params, received, bare)
   count("callbacks")
   if received.n ~= #params or bare.n ~= #params then
@@ -124,8 +126,8 @@ local function payload(params)
   return table.unpack(values)
 end
 
--- Each event once with all that its description names and once with nothing, on two frames; `objects` keeps what came
--- by class.
+-- Posts each event once with all that its description names and once with nothing. `objects` keeps received objects by
+-- class.
 local objects, events = {}, {}
 
 local function postEvents()
@@ -170,7 +172,7 @@ local function compareHandler()
   velora.download.setSyncDownloadHandler()
 end
 
--- A new object, of the class's `new` where it has one.
+-- Returns a new object if the class has `new`, else one that was received.
 local function fresh(class)
   local make = globals.velora.fields[class].fields.new
   if not make then return objects[class] end
@@ -184,7 +186,7 @@ local function object(class)
   return objects[class]
 end
 
--- The results of a call, nil where it raised an error, and whether it reached the SDK.
+-- Returns the results of a call, nil if it raised an error, and whether it reached the SDK.
 local function try(callee, values, n)
   offline.calls()
   local results = table.pack(pcall(callee, table.unpack(values, 1, n)))
@@ -195,22 +197,21 @@ end
 
 local function compareResults(name, returns, results)
   if not results then return fail("%s raises an error", name) end
-  if results.n > #returns then fail("%s gives %d results, not %d", name, results.n, #returns) end
+  if results.n > #returns then fail("%s returns %d results, not %d", name, results.n, #returns) end
   for i, result in ipairs(returns) do
-    if not fits(results[i], result.type) then fail("%s gives %s, not %s", name, results[i], result.type) end
+    if not fits(results[i], result.type) then fail("%s returns %s, not %s", name, results[i], result.type) end
   end
 end
 
--- A function that calls the SDK: with all its arguments, with those that it must have, with one less, and with an
--- operation that has nothing to give.
+-- Calls a function with all its arguments, with the required ones, with one less, and with an operation that has no
+-- result.
 local function compareFunction(name, operation, member, callee)
   local values, required = {}, 0
   for i, param in ipairs(member.params) do
     values[i] = sample(param.type, object)
     if not param.optional then required = i end
   end
-  if member.text == "" then fail("%s has no meaning", name) end
-  if name == operation then offline.answer(operation, nil) end -- raises an error where the runtime does not know it
+  if name == operation then offline.answer(operation, nil) end -- raises an error if the runtime does not know it
   local nilSeen = false
   local function call(n)
     local results, reached = try(callee, values, n)
@@ -230,11 +231,11 @@ local function compareFunction(name, operation, member, callee)
     call(#values)
     offline.answer(operation, nil)
   end
-  if isText and not nilSeen then fail("%s never gives nil", name) end
+  if isText and not nilSeen then fail("%s never returns nil", name) end
   count("functions")
 end
 
--- Fields: what a setter takes, its getter gives; from a new object whose record fails nil comes, where it is described.
+-- A getter must return what its setter takes; for a new object whose record fails, nil if that is described.
 local function compareAccessors(class, members)
   local self, new = object(class), fresh(class)
   for name, member in sortedPairs(members) do
@@ -248,14 +249,14 @@ local function compareAccessors(class, members)
       compareResults(class .. "." .. name, { { type = result:gsub("%?$", "") } }, try(self[name], { self }, 1))
       pcall(offline.answer, class .. "." .. name, false)
       local value = new[name](new)
-      if (value == nil) ~= (result:sub(-1) == "?") then fail("%s.%s gives %s", class, name, value) end
+      if (value == nil) ~= (result:sub(-1) == "?") then fail("%s.%s returns %s", class, name, value) end
       pcall(offline.answer, class .. "." .. name, nil)
       count("getters")
     end
   end
 end
 
--- Functions that call no operation of the SDK's of their own.
+-- Functions that do not call an SDK operation of their name.
 local ownWays = { getSyncDownloadHandler = true, ["ProductInfo.new"] = true }
 
 local function compareFunctions()
