@@ -1234,7 +1234,7 @@ function velora.QueryRankInfo.new(text) end
 ---@field QUERY_RANK_SCOPE_FRIEND string Rank among friends. The value is the SDK's.
 
 -- # Sharing
--- A request is filled field by field, tested with `zvCheckArgs` and sent with `zvShare`.
+-- A request is filled field by field, checked with `zvCheckArgs` and sent with `zvShare`.
 
 -- ## Sending a request
 
@@ -1337,7 +1337,7 @@ function velora.getOnShareFinished() end
 ---@field get_userName fun(self: velora.ShareInfo): string? The name of a mini program.
 ---@field set_userName fun(self: velora.ShareInfo, value: velora.Text) The name of a mini program.
 ---@field get_miniProgramType fun(self: velora.ShareInfo): integer `MINIPROGRAM_TYPE_*`, `MINIPTOGRAM_TYPE_RELEASE`.
----@field set_miniProgramType fun(self: velora.ShareInfo, value: integer) A mini program type.
+---@field set_miniProgramType fun(self: velora.ShareInfo, value: integer) `MINIPROGRAM_TYPE_*`.
 ---@field get_shareData fun(self: velora.ShareInfo): table<string, string>? Further data by name.
 ---@field set_shareData fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>) Further data by name.
 velora.ShareInfo = {}

@@ -51,7 +51,7 @@ local function sample(type, object)
     return structure
   end
   local plain = { string = "text", integer = 7, number = 2.0, boolean = true, any = "text" }
-  return assert(plain[type], type)
+  return (assert(plain[type], type))
 end
 
 local function fits(value, type)
@@ -120,9 +120,9 @@ local function compareReceived(name, params, received, bare)
   end
 end
 
-local function payload(params)
+local function payload(params, make)
   local values = {}
-  for i, param in ipairs(params) do values[i] = sample(param.type, record) end
+  for i, param in ipairs(params) do values[i] = sample(param.type, make) end
   return table.unpack(values)
 end
 
@@ -138,7 +138,7 @@ local function postEvents()
       local calls = { params = params }
       events[event] = calls
       velora[name](function(...) calls[#calls + 1] = table.pack(...) end)
-      local ok, message = pcall(function() offline.post(event, payload(params)) end)
+      local ok, message = pcall(function() offline.post(event, payload(params, record)) end)
       if not ok then fail("%s: %s", event, message) end
       offline.post(event)
     end
@@ -156,22 +156,6 @@ local function compareEvents()
   end
 end
 
-local function compareHandler()
-  local calls, handler = {}, {}
-  for _, field in ipairs(structures["velora.SyncDownloadHandler"]) do
-    handler[field.name] = function(...) calls[#calls + 1] = table.pack(...) end
-  end
-  velora.download.setSyncDownloadHandler(handler)
-  for _, field in ipairs(structures["velora.SyncDownloadHandler"]) do
-    calls = {}
-    local params = annotations.signature(field.type)
-    offline.download(field.name, payload(params))
-    offline.download(field.name)
-    compareReceived(field.name, params, calls[1], calls[2])
-  end
-  velora.download.setSyncDownloadHandler()
-end
-
 -- Returns a new object if the class has `new`, else one that was received.
 local function fresh(class)
   local make = globals.velora.fields[class].fields.new
@@ -184,6 +168,98 @@ end
 local function object(class)
   objects[class] = objects[class] or fresh(class)
   return objects[class]
+end
+
+-- What followed the calls of the reference's tables, and what should have: events with their first argument.
+local pages = dofile("tools/reference_pages.lua")
+local followed, expected = {}, {}
+
+local function joined(set)
+  local names = {}
+  for name in sortedPairs(set) do names[#names + 1] = name end
+  return table.concat(names, " ")
+end
+
+-- A description that tells which events follow a call must name those of its row in the tables, and no others.
+local function compareNamedEvents(name, member, reply)
+  local named, listed = {}, {}
+  if member.text:find("arrive") or member.text:find("follow") or member.text:find(" comes? ") then
+    for word in member.text:gmatch("%u%w+") do named[word] = events[word] end
+  end
+  if reply then
+    for _, event in ipairs(reply[2]) do listed[event] = true end
+    if reply[4] then listed[reply[4]] = true end
+  end
+  if joined(named) ~= joined(listed) then fail("%s names %s, not %s", name, joined(named), joined(listed)) end
+end
+
+local function callReply(name, member, callee, reply)
+  local names, answer, failure, received = table.unpack(reply, 2, 5)
+  local operation = name:match("%w+$")
+  local function call() callee(payload(member.params, fresh)) end
+  call()
+  for _, event in ipairs(names) do expected[#expected + 1] = { name, event } end
+  if answer then
+    offline.answer(operation, load("return " .. answer)())
+    call()
+    offline.answer(operation, nil)
+  end
+  if failure then expected[#expected + 1] = { name, failure, received and load("return " .. received)(), received } end
+  count("calls with events")
+end
+
+-- Calls every function that events follow, once with success and once with the failure that the reference names.
+local function callReplies()
+  local replies = {}
+  for _, page in pairs(pages) do
+    for _, reply in ipairs(page.replies or {}) do replies[reply[1]] = reply end
+  end
+  for event in pairs(events) do
+    velora["setOn" .. event](function(value)
+      if type(value) == "userdata" and value.get_orderStatus then value = value:get_orderStatus() end
+      followed[#followed + 1] = { event, value }
+    end)
+  end
+  local function visit(path, fields, live)
+    for name, member in sortedPairs(fields) do
+      if member.kind == "function" and not name:find("^[gs]etOn") then
+        local reply = replies[path .. name]
+        replies[path .. name] = nil
+        compareNamedEvents(path .. name, member, reply)
+        if reply then callReply(path .. name, member, live[name], reply) end
+      end
+    end
+  end
+  visit("", globals.velora.fields, velora)
+  visit("download.", globals.velora.fields.download.fields, velora.download)
+  for name in pairs(replies) do fail("the reference lists %s, which is not a function", name) end
+end
+
+local function compareReplies()
+  for i = 1, math.max(#expected, #followed) do
+    local name, event, received, isNamed = table.unpack(expected[i] or {}, 1, 4)
+    local came, value = table.unpack(followed[i] or {}, 1, 2)
+    local isSame = value == received or type(received) == "table" and type(value) == "table" and #value == 0
+    if event ~= came or isNamed and not isSame then
+      return fail("%s: %s (%s) follows, not %s (%s)", name, came, value, event, isNamed)
+    end
+  end
+end
+
+local function compareHandler()
+  local calls, handler = {}, {}
+  for _, field in ipairs(structures["velora.SyncDownloadHandler"]) do
+    handler[field.name] = function(...) calls[#calls + 1] = table.pack(...) end
+  end
+  velora.download.setSyncDownloadHandler(handler)
+  for _, field in ipairs(structures["velora.SyncDownloadHandler"]) do
+    calls = {}
+    local params = annotations.signature(field.type)
+    offline.download(field.name, payload(params, record))
+    offline.download(field.name)
+    compareReceived(field.name, params, calls[1], calls[2])
+  end
+  velora.download.setSyncDownloadHandler()
 end
 
 -- Returns the results of a call, nil if it raised an error, and whether it reached the SDK.
@@ -288,9 +364,14 @@ compare("velora.", globals.velora.fields, velora)
 local playerGlobals = annotations.globals(annotations.read("types/player.lua"))
 for _, name in ipairs{ "player", "offline" } do compare(name .. ".", playerGlobals[name].fields, _G[name]) end
 postEvents()
-player.onFrame(function()
-  compareEvents()
-  compareHandler()
-  compareFunctions()
-  report()
+player.onFrame(function(frame)
+  if frame == 1 then
+    compareEvents()
+    callReplies()
+  elseif frame == 30 then -- by now all events have come
+    compareReplies()
+    compareHandler()
+    compareFunctions()
+    report()
+  end
 end)
