@@ -395,7 +395,7 @@ function velora.getOnContinueGame() end
 ---no view to ask with.
 function velora.zvOpenExitView() end
 
----Leaves the game through the SDK. ExitApp follows.
+---Leaves the game through the SDK. Offline, ExitApp follows.
 function velora.exitApp() end
 
 ---@alias velora.OnExitApp fun()
@@ -1613,18 +1613,18 @@ function velora.getOnSelectChannelOptionFinished() end
 
 -- ## Web views and boards
 
----Opens a web page in the SDK's web view. ShowViewOpened or ShowViewFailed follows.
+---Opens a web page in the SDK's web view. Offline, ShowViewOpened or ShowViewFailed follows.
 ---@param url velora.Text
 function velora.zvOpenWebView(url) end
 
----Closes the web view. ShowViewClosed follows.
+---Closes the web view. Offline, ShowViewClosed follows.
 function velora.zvCloseWebView() end
 
----Shows a web page of the SDK. ShowViewOpened or ShowViewFailed follows.
+---Shows a web page of the SDK. Offline, ShowViewOpened or ShowViewFailed follows.
 ---@param url velora.Text one of `ZV_WEB_*`, or another string that the SDK knows
 function velora.zvShowWeb(url) end
 
----Shows a board. ShowViewOpened or ShowViewFailed follows.
+---Shows a board. Offline, ShowViewOpened or ShowViewFailed follows.
 ---@param first velora.Text the SDK defines its meaning
 ---@param second velora.Text the SDK defines its meaning
 ---@param third velora.Text the SDK defines its meaning
@@ -1661,25 +1661,25 @@ function velora.getOnWebviewNativeCall() end
 
 -- ## Other views
 
----Shows the view of rewards. ShowViewRewarded comes when a reward is due; ShowViewOpened or ShowViewFailed and, at the
----end, ShowViewClosed come as well. Raises an error if the argument is not a table. Leaves out elements that are
+---Shows the view of rewards. ShowViewRewarded comes when a reward is due; offline ShowViewOpened or ShowViewFailed and,
+---at the end, ShowViewClosed come as well. Raises an error if the argument is not a table. Leaves out elements that are
 ---neither strings nor numbers.
 ---@param rewards velora.Text[]
 function velora.zvShowRewardView(rewards) end
 
----Opens the conversation with the support. ShowViewOpened or ShowViewFailed follows.
+---Opens the conversation with the support. Offline, ShowViewOpened or ShowViewFailed follows.
 function velora.zvShowConversation() end
 
----Opens the frequently asked questions. ShowViewOpened or ShowViewFailed follows.
+---Opens the frequently asked questions. Offline, ShowViewOpened or ShowViewFailed follows.
 function velora.zvShowFAQs() end
 
----Opens the view of players nearby. ShowViewOpened or ShowViewFailed follows.
+---Opens the view of players nearby. Offline, ShowViewOpened or ShowViewFailed follows.
 function velora.zvOpenNearby() end
 
----Opens the VESPERA view. ShowViewOpened or ShowViewFailed follows.
+---Opens the VESPERA view. Offline, ShowViewOpened or ShowViewFailed follows.
 function velora.zvOpenVespera() end
 
----Closes the flash view. ShowViewClosed follows.
+---Closes the flash view. Offline, ShowViewClosed follows.
 function velora.zvCloseFlash() end
 
 ---Shows or hides the SDK's floating button. The argument is converted to a boolean: 0 shows the button, no argument
@@ -2029,7 +2029,7 @@ function velora.zvSetUserIdentifier(identifier) end
 ---@class velora.download
 velora.download = {}
 
----Starts the download service. DownloadInited follows.
+---Starts the download service. Offline, DownloadInited follows.
 function velora.download.init() end
 
 ---Returns what the service is doing, in a form that the SDK defines; nil if it has nothing to report. Offline,
