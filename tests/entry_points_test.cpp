@@ -1,47 +1,75 @@
 // The three entry points, the shape of the table `velora`, and the six binding helpers.
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "platform/binding_helpers.h"
+#include "platform/const_prop.h"
+#include "platform/share_info.h"
 #include "tests/harness.h"
+#include "wrappers/registration.h"
 
 namespace tests {
 namespace {
 
 namespace offline = tarn::velora::offline;
+using namespace tarn::velora;
 
-using EntryPoints = VeloraTest;
+using EntryPoints = HostTest;
 
-TEST_F(EntryPoints, InitPublishesExactlyTheNamedKeys) {
-  Host host;
-  EXPECT_EQ(host.Run("local n, kinds = 0, {} for k, v in pairs(velora) do n = n + 1 local t = math.type(v) or type(v) "
-                     "kinds[t] = (kinds[t] or 0) + 1 end return n, kinds"),
-            "984, {\"function\"=235, \"integer\"=211, \"string\"=529, \"table\"=9}");
-  EXPECT_EQ(host.Run("local n = {} for k, v in pairs(velora) do if type(v) == 'table' then n[k] = 0 for _ in pairs(v) "
-                     "do n[k] = n[k] + 1 end end end return n"),
-            "{\"AccountInfo\"=23, \"OrderInfo\"=88, \"PadEvent\"=11, \"ProductInfo\"=21, \"QueryRankInfo\"=9, "
-            "\"ShareInfo\"=75, \"SkuDetailsInfo\"=17, \"download\"=8, \"utils\"=0}");
+std::string Shown(const std::string& text) { return '"' + text + '"'; }
+std::string Shown(std::int32_t value) { return std::to_string(value); }
+std::string Shown(float value) { return Shown(static_cast<std::int32_t>(value)); }
+
+// The names in the row files, each with its value as a script sees it.
+std::map<std::string, std::string> Rows() {
+  std::map<std::string, std::string> rows;
+  for (const luaL_Reg* row = luavelora::kModuleFunctions; row->name != nullptr; ++row) rows[row->name] = "function";
+  const auto add = [&rows](const char* name, const auto& value) {
+    EXPECT_TRUE(rows.emplace(name, Shown(value)).second) << name << " has two rows";
+  };
+#define VELORA_CONSTANT(name, kind) add(#name, ConstProp::name);
+#include "platform/constants.def"
+#undef VELORA_CONSTANT
+#define VELORA_MODULE_CONSTANT(name, value) add(#name, std::int32_t{value});
+#include "constants/module_constants.def"
+#undef VELORA_MODULE_CONSTANT
+#define VELORA_SHARE_CONSTANT(name) add("SHARE_" #name, ShareInfo::name);
+#include "platform/share_constants.def"
+#undef VELORA_SHARE_CONSTANT
+  return rows;
+}
+
+// The tables, and the constants that come with a class without a row file, are named by the annotations' test.
+TEST_F(EntryPoints, InitPublishesWhatTheRowFilesName) {
+  lua_State* L = host.L;
+  auto rows = Rows();
+  lua_getglobal(L, "velora");
+  for (lua_pushnil(L); lua_next(L, 1) != 0; lua_pop(L, 1)) {
+    const std::string name = lua_tostring(L, -2);
+    const bool ofClass = name.starts_with("ORDER_") || name.starts_with("PRODUCT_") || name.starts_with("QUERY_RANK_");
+    if (const auto row = rows.extract(name))
+      EXPECT_EQ(Render(L, -1), row.mapped()) << name;
+    else
+      EXPECT_TRUE(lua_istable(L, -1) || ofClass) << name << " is in no row file";
+  }
+  for (const auto& [name, value] : rows) ADD_FAILURE() << name << " is not in the table";
+  lua_settop(L, 0);
   EXPECT_EQ(
       host.Run("return velora.PadEvent.new, velora.OrderInfo.ORDER_S_PREPARING, velora.ShareInfo.SHARE_TYPE_LINK, "
                "velora.QueryRankInfo.QUERY_RANK_TYPE_SCORE, getmetatable(velora)"),
       "nil, nil, nil, nil, nil");
 }
 
-// The runtime's texts tell whose they are, and its numbers are all different, from 1000 on.
-TEST_F(EntryPoints, ConstantsHoldTheSdksValues) {
-  Host host;
-  EXPECT_EQ(host.Run("local seen, n = {}, 0 for k, v in pairs(velora) do "
-                     "if type(v) == 'string' then assert(v == ('velora.' .. k):lower(), k) end "
-                     "if math.type(v) == 'integer' and v >= 1000 then assert(not seen[v], k) seen[v], n = k, n + 1 end "
-                     "end return n, velora.AUTH_UNLOGIN, velora.C_MAX_PRICE"),
-            "123, -1, 9999");
-  EXPECT_EQ(host.Run("return velora.LOGIN_DONE_VELORA_BIND_FAIL, velora.PAD_ACTION_PRESSURE, "
-                     "velora.CODE_SCANNER_PERMISSIONS_DENY, velora.FINISH_INIT_MISSED, velora.PAD_KEYCODE_RIGHT_STICK, "
-                     "velora.ORDER_S_SDK_CHANNEL_IN_BLACKLIST, velora.PRODUCT_TYPE_PROMOCODE"),
-            "-130, -1, 4, 3, 201, 430, 4");
+TEST_F(EntryPoints, ConstantsHoldFixedValues) {
+  EXPECT_EQ(host.Run("return velora.AUTH_UNLOGIN, velora.C_MAX_PRICE, velora.PAD_KEYCODE_RIGHT_STICK, "
+                     "velora.LOGIN_DONE_VELORA_BIND_FAIL, velora.PAD_ACTION_PRESSURE, velora.FINISH_INIT_MISSED, "
+                     "velora.CODE_SCANNER_PERMISSIONS_DENY, velora.ORDER_S_SDK_CHANNEL_IN_BLACKLIST, "
+                     "velora.PRODUCT_TYPE_PROMOCODE"),
+            "-1, 9999, 201, -130, -1, 3, 4, 430, 4");
 }
 
 TEST_F(EntryPoints, DeinitEmptiesTheSlotsAndNothingElse) {
-  Host host;
   host.Run("for k, v in pairs(velora) do if k:find('^setOn') then v(print) end end order = velora.OrderInfo.new(1)");
   EXPECT_EQ(host.Run("return velora.getOnLoginDone() == print, velora.getOnDownloadFinish2() == print"), "true, true");
   DeinitLuaVelora(host.L);
@@ -59,7 +87,6 @@ TEST_F(EntryPoints, DeinitEmptiesTheSlotsAndNothingElse) {
 
 // Nothing is made, so no finaliser runs.
 TEST_F(EntryPoints, DeinitRaisesNoErrorOfAFinaliser) {
-  Host host;
   host.Run(
       "collectgarbage('stop') collectgarbage('setpause', 0) collectgarbage('setstepmul', 1000000) "
       "setmetatable({}, {__gc = function() error('from the grave') end})");
@@ -73,7 +100,6 @@ TEST_F(EntryPoints, DeinitRaisesNoErrorOfAFinaliser) {
 }
 
 TEST_F(EntryPoints, ASecondInitKeepsOlderObjectsAndCallbacks) {
-  Host host;
   host.Run("old = velora; order = velora.OrderInfo.new('gold'); velora.setOnLoginDone(print)");
   InitLuaVelora(host.L);
   EXPECT_EQ(lua_gettop(host.L), 0);
@@ -85,7 +111,7 @@ TEST_F(EntryPoints, ASecondInitKeepsOlderObjectsAndCallbacks) {
 }
 
 TEST_F(EntryPoints, UpdateBeforeInitDropsEvents) {
-  Host host(false);
+  host.Open(false);
   offline::Post(std::make_shared<tarn::velora::PlainEvent>(4));
   EXPECT_EQ(host.Frame(), "");
   EXPECT_TRUE(offline::TakeLog().empty());
@@ -93,7 +119,7 @@ TEST_F(EntryPoints, UpdateBeforeInitDropsEvents) {
 
 // What the registry keeps is named by text, so that other carriers of the helpers see the same.
 TEST_F(EntryPoints, HelpersKeepTheirContract) {
-  Host host(false);
+  host.Open(false);
   lua_State* L = host.L;
   lua_newtable(L);
   lua_pushcfunction(L, [](lua_State* state) {
@@ -139,7 +165,6 @@ TEST_F(EntryPoints, HelpersKeepTheirContract) {
 }
 
 TEST_F(EntryPoints, ScriptsCannotReachAMetatable) {
-  Host host;
   EXPECT_EQ(host.Run("return getmetatable(velora.OrderInfo.new(1)), pcall(setmetatable, velora.OrderInfo.new(1), {})"),
             "false, false, \"bad argument #1 to 'setmetatable' (table expected, got LuaOrderInfo)\"");
 }

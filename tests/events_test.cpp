@@ -45,7 +45,7 @@ TEST_F(Events, EachSlotIsItsOwn) {
   EXPECT_EQ(host.Run("local n, set = 0, {} for k, f in pairs(velora) do local e = k:match('^setOn(.+)') if e then "
                      "set[e] = function() return e end f(set[e]) end end "
                      "for e, f in pairs(set) do n = n + 1 assert(velora['getOn' .. e]() == f, e) end return n"),
-            "60");
+            std::to_string(luavelora::kEventTypes));
 }
 
 TEST_F(Events, APassDeliversInOrderAndOnce) {
@@ -100,24 +100,24 @@ TEST_F(Events, ErrorsAreLoggedAndThePassGoesOn) {
 
 // Lines go to the channel that the SDK's global holds at the time of the call.
 TEST_F(Events, UnknownTypesAreLoggedOnlyWhereTheTableHoldsAValue) {
-  for (int type : {60, -1, 61}) offline::Post(std::make_shared<Event>(type));
+  for (int type : {kNoEventType, -1, kNoEventType + 1}) offline::Post(std::make_shared<Event>(type));
   EXPECT_EQ(host.Frame(), "");
   EXPECT_TRUE(offline::TakeLog().empty());
   const std::uint32_t own = LogChannel;
   LogChannel = tarn::log::RegisterChannel("OTHER");
   host.Run("velora.setOnLoginDone(function() error('x', 0) end)");
   GetSdkCallbackTable(host.L, "VELORA");
-  for (int key : {60, -1}) {
+  for (int key : {kNoEventType, -1}) {
     lua_pushboolean(host.L, 0);
     lua_rawseti(host.L, -2, key);
   }
   lua_pop(host.L, 1);
-  for (int type : {60, -1, 61}) offline::Post(std::make_shared<Event>(type));
+  for (int type : {kNoEventType, -1, kNoEventType + 1}) offline::Post(std::make_shared<Event>(type));
   PostCode(15, 0);
   EXPECT_EQ(host.Frame(), "");
   EXPECT_EQ(offline::TakeLog(),
-            (std::vector<std::string>{"[OTHER] ERROR Unknown velora event 60", "[OTHER] ERROR Unknown velora event -1",
-                                      "[OTHER] 0 [Velora callback err] x"}));
+            (std::vector<std::string>{"[OTHER] ERROR Unknown velora event " + std::to_string(kNoEventType),
+                                      "[OTHER] ERROR Unknown velora event -1", "[OTHER] 0 [Velora callback err] x"}));
   LogChannel = own;
 }
 
@@ -183,39 +183,16 @@ const std::map<std::string, Arguments> kLayouts = {
 };
 
 TEST_F(Events, EveryEventReachesItsCallbackWithItsArguments) {
-  struct Row {
-    int type;
-    const char* name;
-    const char* layout;
-  };
-  const Row rows[] = {
-#define VELORA_EVENT(type, name, Layout) {type, #name, #Layout},
-#include "platform/events.def"
-#undef VELORA_EVENT
-  };
-  // Names an object by the one class whose getter answers for it, and shows a zero byte as 0.
-  host.Run(R"(
-    local getters = {PadEvent = 'get_action', OrderInfo = 'get_count', AccountInfo = 'get_rank',
-                     SkuDetailsInfo = 'get_type'}
-    function name(v)
-      if type(v) == 'string' then return (v:gsub('\0', '0')) end
-      if type(v) == 'table' then local t = {} for k, e in pairs(v) do t[k] = name(e) end return t end
-      if type(v) ~= 'userdata' then return v end
-      local names = {}
-      for class, getter in pairs(getters) do
-        if velora[class][getter](v) ~= nil then names[#names + 1] = class end
-      end
-      return table.concat(names, '+')
-    end
-    function receive(...) got = table.pack(...) for i = 1, got.n do got[i] = name(got[i]) end end)");
-  for (const Row& row : rows) {
+  EXPECT_EQ(host.RunFile("events.lua"), "");
+  for (const EventRow& row : kEventRows) {
     host.Run(std::string("velora.setOn") + row.name + "(receive)");
-    const Arguments& arguments = kLayouts.at(row.layout);
+    const auto layout = kLayouts.find(row.layout);
+    ASSERT_NE(layout, kLayouts.end()) << "kLayouts has no row for the " << row.layout << " of " << row.name;
     for (const bool filled : {false, true}) {
       offline::Post(MakeEvent(row.type, filled));
       EXPECT_EQ(host.Frame(), "");
       EXPECT_EQ(host.Run("local g = got got = nil return table.unpack(g, 1, g.n)"),
-                filled ? arguments.full : arguments.empty)
+                filled ? layout->second.full : layout->second.empty)
           << row.name;
     }
   }

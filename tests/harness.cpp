@@ -135,10 +135,10 @@ void Host::Close() {
   L = nullptr;
 }
 
-std::string Host::Run(const std::string& chunk) {
-  const int top = lua_gettop(L);
+// Calls the chunk on top of the stack, if `status` tells that it was loaded.
+static std::string Call(lua_State* L, int status) {
+  const int top = lua_gettop(L) - 1;
   std::string text;
-  int status = luaL_loadbuffer(L, chunk.data(), chunk.size(), "=test");
   if (status == LUA_OK) status = lua_pcall(L, 0, LUA_MULTRET, 0);
   if (status != LUA_OK) {
     const char* error = lua_tostring(L, -1);
@@ -148,6 +148,14 @@ std::string Host::Run(const std::string& chunk) {
   }
   lua_settop(L, top);
   return text;
+}
+
+std::string Host::Run(const std::string& chunk) {
+  return Call(L, luaL_loadbuffer(L, chunk.data(), chunk.size(), "=test"));
+}
+
+std::string Host::RunFile(const std::string& name) {
+  return Call(L, luaL_loadfile(L, (VELORA_TEST_LUA + name).c_str()));
 }
 
 std::string Host::Frame() {
@@ -210,16 +218,13 @@ std::shared_ptr<tarn::velora::Event> Make(int type, bool filled) {
 
 }  // namespace
 
-std::shared_ptr<tarn::velora::Event> MakeEvent(int type, bool filled) {
-  constexpr decltype(&Make<tarn::velora::PlainEvent>) kMake[] = {
-#define VELORA_EVENT(number, name, Layout) Make<tarn::velora::Layout>,
+const EventRow kEventRows[] = {
+#define VELORA_EVENT(type, name, Layout) {type, #name, #Layout, Make<tarn::velora::Layout>},
 #include "platform/events.def"
 #undef VELORA_EVENT
-  };
-  return kMake[type](type, filled);
-}
+};
 
-void Check(Host& host, const char* chunk, const std::string& results, const std::string& calls) {
+void Check(Host& host, const std::string& chunk, const std::string& results, const std::string& calls) {
   tarn::velora::offline::TakeCalls();
   EXPECT_EQ(host.Run(chunk), results) << chunk;
   std::string made;

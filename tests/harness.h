@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "events/callbacks.h"
 #include "module/lua_velora.h"
 #include "offline/control.h"
 #include "platform/event.h"
@@ -44,6 +45,9 @@ class Host {
   // quotes with \0 for a zero byte, floats with a point, tables in braces with sorted keys, "error: text" for an error.
   std::string Run(const std::string& chunk);
 
+  // The same for a file of tests/lua.
+  std::string RunFile(const std::string& name);
+
   // Runs one frame and checks that the stack height is unchanged. "" or the text of a Lua error that left it.
   std::string Frame();
 
@@ -60,11 +64,24 @@ class Host {
 // Renders the value at `index`, as Host::Run says.
 std::string Render(lua_State* L, int index);
 
-// A new event of the catalogue's type `type`, with nothing of its payload set or all of it.
-std::shared_ptr<tarn::velora::Event> MakeEvent(int type, bool filled);
+// The catalogue's events by their type numbers. `make` returns a new one with nothing of its payload set or all of it.
+struct EventRow {
+  int type;
+  const char* name;
+  const char* layout;
+  std::shared_ptr<tarn::velora::Event> (*make)(int type, bool filled);
+};
+extern const EventRow kEventRows[luavelora::kEventTypes];
+
+// A type that no event will ever have.
+inline constexpr int kNoEventType = 1 << 20;
+
+inline std::shared_ptr<tarn::velora::Event> MakeEvent(int type, bool filled) {
+  return kEventRows[type].make(type, filled);
+}
 
 // Runs a chunk, which must give these results and make exactly these SDK calls, "; " between them.
-void Check(Host& host, const char* chunk, const std::string& results, const std::string& calls = "");
+void Check(Host& host, const std::string& chunk, const std::string& results, const std::string& calls = "");
 
 // Starts each test from an empty offline runtime, and checks at its end that every record and block is gone.
 class VeloraTest : public testing::Test {

@@ -49,48 +49,7 @@ class Hostile : public HostTest {
     deed = Deed::kNothing;
     hooked.clear();
     lua_register(host.L, "deed", SetDeed);
-    host.Run(R"(
-      order, share, product = velora.OrderInfo.new('o'), velora.ShareInfo.new('s'), velora.ProductInfo.new()
-      function noop() end
-      -- Runs `action` whenever the collector finishes a cycle, which it does at every chance, until `stop` is called.
-      function haunt(action)
-        local function plant() setmetatable({}, {__gc = function() if action then plant() action() end end}) end
-        function stop() action = nil collectgarbage('setpause', 200) collectgarbage('setstepmul', 200) end
-        collectgarbage('setpause', 0) collectgarbage('setstepmul', 1000000)
-        pcall(plant)
-      end
-      -- Calls every function of the module in many ways, as call(k, f, ...), each time with the three objects made anew;
-      -- k counts from 0 while `call` answers true.
-      function callAll(call)
-        local o, s, p = {}, {}, {}
-        local function try(f, ...)
-          local k = 0
-          repeat
-            order, share, product = velora.OrderInfo.new('o'), velora.ShareInfo.new('s'), velora.ProductInfo.new()
-            velora.OrderInfo.regProduct(product) product:set_sdkPids{a = 'b'}
-            share:set_toUserList{'a'} share:set_textMsg{k = 'v'}
-            local objects, arguments = {[o] = order, [s] = share, [p] = product}, table.pack(...)
-            for i = 1, arguments.n do arguments[i] = objects[arguments[i]] or arguments[i] end
-            local again = call(k, f, table.unpack(arguments, 1, arguments.n))
-            k = k + 1
-          until not again
-        end
-        for name, f in pairs(velora) do
-          if type(f) == 'function' then
-            try(f) try(f, o) try(f, s) try(f, {1.5, 2.5, k = 1.5}) try(f, 1.5, {1.5, 'x'})
-            try(f, 1.5, 2.5) try(f, 1.5, 1) try(f, 1.5, 1, 2, 3.5, 4.5) try(f, 1.5, 2.5, true)
-          elseif type(f) == 'table' then
-            for key, g in pairs(f) do
-              if key ~= '__gc' then
-                for _, self in ipairs{o, s, p} do
-                  try(g, self, 1.5) try(g, self, {1.5, 2.5, k = 1.5}) try(g, self)
-                end
-                try(g, 1.5, 2, 3, 4, 5, 6, 7.5)
-              end
-            end
-          end
-        end
-      end)");
+    EXPECT_EQ(host.RunFile("hostile.lua"), "");
   }
 
   void TearDown() override {
@@ -114,8 +73,6 @@ class Hostile : public HostTest {
   }
 };
 
-// The collector runs in the module's own functions only, and finishes a cycle, with the action at its end, as soon as
-// one of them allocates.
 TEST_F(Hostile, FinalisersThatRaiseOrInterfereWhileTheModuleWorks) {
   for (const char* action : {
            "error('finaliser')",
@@ -126,24 +83,7 @@ TEST_F(Hostile, FinalisersThatRaiseOrInterfereWhileTheModuleWorks) {
            "velora.setOnLoginDone(print) velora.download.setSyncDownloadHandler()",
            "velora.download.setSyncDownloadHandler{onInited = noop, onProgress = noop, onFinish = noop}",
        }) {
-    host.Run(std::string("function deed() ") + action + " end");
-    EXPECT_EQ(host.Run(R"(
-      collectgarbage('stop') collectgarbage('setpause', 0) collectgarbage('setstepmul', 1000000)
-      local calls, raised, action = 0, 0
-      local function finish() action() end
-      callAll(function(k, f, ...)
-        calls, action = calls + 1, deed
-        setmetatable({}, {__gc = finish})
-        collectgarbage('restart')
-        local ok, message = pcall(f, ...)
-        collectgarbage('stop')
-        if not ok and tostring(message):find('__gc', 1, true) then raised = raised + 1 end
-        action = noop
-        if calls % 500 == 0 then collectgarbage() end
-      end)
-      action = noop
-      collectgarbage() collectgarbage('setpause', 200) collectgarbage('setstepmul', 200) collectgarbage('restart')
-      return calls > 4000, raised > 100)"),
+    EXPECT_EQ(host.Run(std::string("return callWithFinaliser(function() ") + action + " end)"),
               std::string("true, ") + (std::string_view(action).starts_with("error") ? "true" : "false"))
         << action;
     ExpectSound();
@@ -174,7 +114,7 @@ TEST_F(Hostile, FinalisersThatRaiseWhileThePumpBuildsArguments) {
       "seen = 0 for name, f in pairs(velora) do if name:find('^setOn') then f(function() seen = seen + 1 end) end end "
       "haunt(function() error('from the grave', 0) end)");
   constexpr int kEvents = 600;
-  for (int i = 0; i < kEvents; ++i) offline::Post(MakeEvent(i % 60, true));
+  for (int i = 0; i < kEvents; ++i) offline::Post(MakeEvent(i % luavelora::kEventTypes, true));
   EXPECT_EQ(host.Frame(), "");
   StopHaunting();
   const auto lines = offline::TakeLog();
@@ -215,21 +155,7 @@ TEST_F(Hostile, CallbacksThatMisbehave) {
 TEST_F(Hostile, AnSdkThatThrows) {
   for (const auto& [what, text] :
        {std::pair{Deed::kThrow, "the SDK broke"}, {Deed::kRunOutOfMemory, "not enough memory"}}) {
-    EXPECT_EQ(host.Run("what, text = " + std::to_string(static_cast<int>(what)) + ", '" + text + "'"), "");
-    EXPECT_EQ(host.Run(R"(
-      callAll(function(k, f, ...)
-        deed(what, k)
-        local ok, message = pcall(f, ...)
-        local failed = deed(0)
-        assert(not failed or not ok and message:find(text, 1, true), message)
-        return failed
-      end)
-      for k = 0, 2 do
-        deed(what, k)
-        assert(not pcall(velora.download.setSyncDownloadHandler, {onInited = noop, onProgress = noop, onFinish = noop}))
-        assert(deed(0) and velora.download.getSyncDownloadHandler() == nil)
-      end)"),
-              "");
+    EXPECT_EQ(host.Run("callWhatFails(" + std::to_string(static_cast<int>(what)) + ", '" + text + "')"), "");
     ExpectSound();
   }
   EXPECT_GT(hooked.size(), 250u);
@@ -240,31 +166,7 @@ TEST_F(Hostile, AnSdkThatThrows) {
 
 // The script's handler runs in the middle of a call and finishes the very objects in hand.
 TEST_F(Hostile, AnSdkThatCallsScriptsInTheMiddleOfACall) {
-  EXPECT_EQ(host.Run(R"(
-    local handler = {onInited = noop, onFinish = noop, onProgress = function()
-      share:set_linkParams{k = 'v'} share:set_toUserList{'b'} product:set_sdkPids{}
-      velora.OrderInfo.__gc(order) velora.ShareInfo.__gc(share) velora.ProductInfo.__gc(product)
-      velora.download.setSyncDownloadHandler()
-      collectgarbage()
-      error('in the middle')
-    end}
-    callAll(function(k, f, ...)
-      velora.download.setSyncDownloadHandler(handler)
-      deed(3, k)
-      pcall(f, ...)
-      local called = deed(0)
-      assert(not called or f == velora.download.setSyncDownloadHandler or
-        select('#', order:get_aid()) + select('#', share:get_title()) == 0 and not product:get_productId())
-      return called
-    end)
-    product = velora.ProductInfo.new()
-    product:set_productName('outer')
-    velora.download.setSyncDownloadHandler{onInited = noop, onFinish = noop, onProgress = function()
-      product:set_productName('inner')
-    end}
-    deed(3)
-    return tostring(product):find('outer') ~= nil, deed(0), product:get_productName())"),
-            "true, true, \"inner\"");
+  EXPECT_EQ(host.Run("return callWhatCallsBack(3)"), "true, true, \"inner\"");
   ExpectSound();
   EXPECT_GT(hooked.size(), 250u);
 }
@@ -279,19 +181,7 @@ TEST_F(Hostile, FinalisersThatFindNoMemory) {
     ++answers;
     return 0;
   });
-  host.Run(R"(
-    getters = {OrderInfo = 'get_count', ShareInfo = 'get_type', ProductInfo = 'get_exchangeRatio', PadEvent = 'get_x',
-               AccountInfo = 'get_rank', QueryRankInfo = 'get_count', SkuDetailsInfo = 'get_title'}
-    weak, kept = setmetatable({}, {__mode = 'k'}), {}
-    function count(class)
-      local n = 0
-      for object in pairs(kept) do n = n + select('#', velora[class][getters[class]](object)) end
-      return n
-    end
-    last = setmetatable({}, {__gc = function()
-      for class in pairs(getters) do if count(class) > 0 then answered() end end
-      if velora.OrderInfo.new('late') or velora.ShareInfo.new() or velora.ProductInfo.new() then answered() end
-    end}))");
+  EXPECT_EQ(host.RunFile("late_finalisers.lua"), "");
   InitLuaVelora(host.L);
   host.Run("velora.setOnControllerStateEvent(function(pad) weak[pad] = true end)");
   lua_State* L = host.L;

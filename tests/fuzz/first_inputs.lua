@@ -2,7 +2,7 @@
 -- good arguments, and programs that post every event.
 local folder = assert(arg[1], "usage: lua5.3 first_inputs.lua FOLDER")
 local FRAME, CALL, LISTEN, COLLECT, POST = 0, 6, 9, 11, 12
-local FUNCTIONS, PATTERNS, EVENTS, DEEDS = 512, 20, 64, 11
+local FUNCTIONS, PATTERNS, EVENTS, DEEDS = 1024, 20, 256, 11 -- more than there are does no harm
 
 local function write(name, bytes)
   local file = assert(io.open(folder .. "/" .. name, "wb"))
@@ -11,11 +11,13 @@ local function write(name, bytes)
 end
 
 for pattern = 0, PATTERNS - 1 do
-  local bytes = {}
-  for f = 0, FUNCTIONS - 1 do
-    for _, byte in ipairs{CALL, f % 256, f // 256, pattern} do bytes[#bytes + 1] = byte end
+  for first = 0, FUNCTIONS - 1, 512 do
+    local bytes = {}
+    for f = first, first + 511 do
+      for _, byte in ipairs{CALL, f % 256, f // 256, pattern} do bytes[#bytes + 1] = byte end
+    end
+    write("calls-" .. pattern .. "-" .. first, bytes)
   end
-  write("calls-" .. pattern, bytes)
 end
 
 for deed = 0, DEEDS - 1 do

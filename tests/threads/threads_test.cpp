@@ -23,19 +23,7 @@ TEST_F(Threads, EveryEventArrivesOnceAndInItsThreadsOrder) {
   constexpr int kOrderEvery = 100;
   constexpr int kFrameEvery = kEventsPerThread / 20;  // so often a thread lets a frame pass, however slow frames are
   Host host;
-  ASSERT_EQ(host.Run(R"(
-    next, orders, kept = {}, 0, {}
-    local function follow(name)
-      next[name] = 0
-      velora['setOn' .. name](function(code) assert(code == next[name], name) next[name] = code + 1 end)
-    end
-    for _, name in ipairs{'FinishInit', 'LoginDone', 'LogoutDone', 'ProtocolFinish'} do follow(name) end
-    velora.setOnOrderCheckDone(function(order)
-      orders = orders + 1
-      kept[orders % 50] = order
-      order:set_count(order:get_count() + 1)
-    end))"),
-            "");
+  ASSERT_EQ(host.RunFile("threads.lua"), "");
   std::atomic<int> running{static_cast<int>(std::size(kTypes))};
   std::atomic<int> frames{0};
   std::vector<std::thread> threads;

@@ -4,7 +4,7 @@
 local annotations = dofile("types/annotations.lua")
 local items = annotations.read("types/velora.lua")
 local globals = annotations.globals(items)
-local counts, failed = {}, false
+local checked, failed = {}, false
 
 local function fail(...)
   failed = true
@@ -21,8 +21,6 @@ local function sortedPairs(map)
     return names[i], map[names[i]]
   end
 end
-
-local function count(what) counts[what] = (counts[what] or 0) + 1 end
 
 local aliases, structures = {}, {}
 for _, item in ipairs(items) do
@@ -88,7 +86,6 @@ local function compare(path, described, live)
       fail("%s%s is %s, described as %s", path, name, value, member.type or "a function")
     end
     if member.text == "" then fail("%s%s has no description", path, name) end
-    count("names of " .. path:match("^%w*"))
   end
   for name in sortedPairs(live) do
     if not described[name] and not name:find("^__") then fail("%s%s is not described", path, name) end
@@ -107,7 +104,6 @@ end
 
 -- `received` came with a full payload, `bare` with none. A described nil must come with none, and only then.
 local function compareReceived(name, params, received, bare)
-  count("callbacks")
   if received.n ~= #params or bare.n ~= #params then
     return fail("%s receives %d and %d values, not %d", name, received.n, bare.n, #params)
   end
@@ -148,6 +144,7 @@ end
 local function compareEvents()
   for event, calls in sortedPairs(events) do
     if #calls == 2 then compareReceived(event, calls.params, calls[1], calls[2]) end
+    checked["setOn" .. event], checked["getOn" .. event] = #calls == 2, true
     for i, param in ipairs(calls.params) do
       local class = param.type:match("^velora%.(%w+)")
       local value = #calls > 0 and calls[1][i]
@@ -308,7 +305,7 @@ local function compareFunction(name, operation, member, callee)
     offline.answer(operation, nil)
   end
   if isText and not nilSeen then fail("%s never returns nil", name) end
-  count("functions")
+  checked[name] = true
 end
 
 -- A getter must return what its setter takes; for a new object whose record fails, nil if that is described.
@@ -317,6 +314,7 @@ local function compareAccessors(class, members)
   for name, member in sortedPairs(members) do
     if name:find("^set_") then
       compareResults(class .. "." .. name, {}, try(self[name], { self, sample(member.params[2].type) }, 2))
+      checked[class .. "." .. name] = true
     end
   end
   for name, member in sortedPairs(members) do
@@ -327,7 +325,7 @@ local function compareAccessors(class, members)
       local value = new[name](new)
       if (value == nil) ~= (result:sub(-1) == "?") then fail("%s.%s returns %s", class, name, value) end
       pcall(offline.answer, class .. "." .. name, nil)
-      count("getters")
+      checked[class .. "." .. name] = true
     end
   end
 end
@@ -352,12 +350,15 @@ local function compareFunctions()
   end
 end
 
-local function report()
-  local lines = {}
-  for what, n in pairs(counts) do lines[#lines + 1] = n .. " " .. what end
-  table.sort(lines)
-  print(table.concat(lines, "\n"))
-  player.quit(not failed)
+-- Every live function has been called, and every callback.
+local function compareChecked(path, live)
+  for name, value in sortedPairs(live) do
+    if type(value) == "table" then compareChecked(path .. name .. ".", value) end
+    local exempt = ownWays[name] or ownWays[path .. name] or name:find("^__")
+    if type(value) == "function" and not checked[path .. name] and not exempt then
+      fail("%s%s has not been checked", path, name)
+    end
+  end
 end
 
 compare("velora.", globals.velora.fields, velora)
@@ -372,6 +373,7 @@ player.onFrame(function(frame)
     compareReplies()
     compareHandler()
     compareFunctions()
-    report()
+    compareChecked("", velora)
+    player.quit(not failed)
   end
 end)
