@@ -2,11 +2,7 @@
 -- byte as 0.
 local function name(v)
   if type(v) == "string" then return (v:gsub("\0", "0")) end
-  if type(v) == "table" then
-    local t = {}
-    for k, e in pairs(v) do t[k] = name(e) end
-    return t
-  end
+  if type(v) == "table" then local t = {} for k, e in pairs(v) do t[k] = name(e) end return t end
   if type(v) ~= "userdata" then return v end
   local names = {}
   for class, functions in pairs(velora) do

@@ -12,9 +12,7 @@ function fill()
 end
 
 handler = {onInited = print, onProgress = function() end, onFinish = function() end}
-
 function nest() return select(2, string.gsub("x", "x", nest)) end
-
 function nothing() end
 
 function wrappers()
