@@ -221,7 +221,6 @@ std::shared_ptr<tarn::velora::Event> Make(int type, bool filled) {
 const EventRow kEventRows[] = {
 #define VELORA_EVENT(type, name, Layout) {type, #name, #Layout, Make<tarn::velora::Layout>},
 #include "platform/events.def"
-#undef VELORA_EVENT
 };
 
 void Check(Host& host, const std::string& chunk, const std::string& results, const std::string& calls) {

@@ -202,7 +202,6 @@ local function callReply(name, member, callee, reply)
     offline.answer(operation, nil)
   end
   if failure then expected[#expected + 1] = { name, failure, received and load("return " .. received)(), received } end
-  count("calls with events")
 end
 
 -- Calls every function that events follow, once with success and once with the failure that the reference names.
