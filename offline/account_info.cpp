@@ -15,7 +15,7 @@ class Account final : public AccountInfo, public Record {
 #define RECORD_FIELDS "platform/account_info.def"
 #include "offline/record_fields.inc"
 
-  bool toString(std::string& out) override { return GiveTextForm("AccountInfo.toString", *this, out); }
+  bool toString(std::string& out) override { return TextForm("AccountInfo.toString", *this, out); }
 };
 
 }  // namespace

@@ -24,28 +24,26 @@ struct Calls {
   std::atomic<bool> trace = false;
   std::atomic<void (*)(const char*)> hook = nullptr;
 
-  std::mutex mutex;  // of the answers
-  std::map<std::string, Answer, std::less<>> answers;
-  std::atomic<bool> hasAnswers = false;  // spares the getters of records the lock
+  std::mutex mutex;  // guards `answers`
+  std::map<std::string, std::shared_ptr<const Answer>, std::less<>> answers;
+  std::atomic<bool> hasAnswers = false;  // lets record getters skip the lock
 };
 
-// Never destroyed: the runtime's thread may still be at work when the process ends.
+// Never destroyed: the runtime's thread may still be running when the process ends.
 Calls& TheCalls() {
   static Calls& calls = *new Calls;
   return calls;
 }
 
-thread_local int quietDepth = 0;
+thread_local int pauses = 0;
 
-// Hands `use` the set answer, or monostate. A variant is not copied here: where the copy of its text fails for want of
-// memory, some standard libraries leave it in no state at all.
-template <class Use>
-auto WithAnswer(const char* operation, Use use) {
+// Returns the answer set for the operation, or null.
+std::shared_ptr<const Answer> FindAnswer(const char* operation) {
   Calls& calls = TheCalls();
-  if (!calls.hasAnswers || quietDepth > 0) return use(Answer());
+  if (!calls.hasAnswers || pauses > 0) return nullptr;
   std::lock_guard lock(calls.mutex);
   const auto found = calls.answers.find(std::string_view(operation));
-  return found == calls.answers.end() ? use(Answer()) : use(found->second);
+  return found == calls.answers.end() ? nullptr : found->second;
 }
 
 template <class Values, class AppendOne>
@@ -60,15 +58,13 @@ void AppendList(std::string& line, const Values& values, AppendOne appendOne) {
   line += '}';
 }
 
-// `made` is null for a record that is not of this runtime's make.
-void AppendReference(std::string& line, const char* recordClass, const void* reference, const Record* made) {
-  if (reference == nullptr) {
-    line += "null";
-  } else if (made == nullptr) {
-    line += recordClass;
-    line += "()";
+// `foreign` is written for a record that this runtime did not make.
+template <class Class>
+void AppendReference(std::string& line, const std::shared_ptr<Class>& reference, const char* foreign) {
+  if (const auto* record = dynamic_cast<const Record*>(reference.get())) {
+    Append(line, *record);
   } else {
-    Append(line, *made);
+    line += reference == nullptr ? "null" : foreign;
   }
 }
 
@@ -86,21 +82,19 @@ void LineBuffer::Add(std::string line) {
 }
 
 std::vector<std::string> LineBuffer::Take() {
-  std::deque<std::string> lines;
-  {
-    std::lock_guard lock(mutex_);
-    lines.swap(lines_);
-    bytes_ = 0;
-  }
-  return {std::make_move_iterator(lines.begin()), std::make_move_iterator(lines.end())};
+  std::lock_guard lock(mutex_);
+  std::vector<std::string> taken(std::make_move_iterator(lines_.begin()), std::make_move_iterator(lines_.end()));
+  lines_.clear();
+  bytes_ = 0;
+  return taken;
 }
 
-Quiet::Quiet() { ++quietDepth; }
-Quiet::~Quiet() { --quietDepth; }
+ControlPause::ControlPause() { ++pauses; }
+ControlPause::~ControlPause() { --pauses; }
 
 void RunHook(const char* operation) {
   const auto hook = TheCalls().hook.load();
-  if (hook != nullptr && quietDepth == 0) hook(operation);
+  if (hook != nullptr && pauses == 0) hook(operation);
 }
 
 void Append(std::string& line, std::string_view text) {
@@ -168,74 +162,65 @@ void Append(std::string& line, const Record& record) {
 }
 
 void Append(std::string& line, const std::shared_ptr<OrderInfo>& record) {
-  AppendReference(line, "OrderInfo", record.get(), dynamic_cast<const Record*>(record.get()));
+  AppendReference(line, record, "OrderInfo()");
 }
 
 void Append(std::string& line, const std::shared_ptr<QueryRankInfo>& record) {
-  AppendReference(line, "QueryRankInfo", record.get(), dynamic_cast<const Record*>(record.get()));
+  AppendReference(line, record, "QueryRankInfo()");
 }
 
 void Append(std::string& line, const std::shared_ptr<ShareInfo>& record) {
-  AppendReference(line, "ShareInfo", record.get(), dynamic_cast<const Record*>(record.get()));
+  AppendReference(line, record, "ShareInfo()");
 }
 
 std::string BeginLine(std::string_view operation) {
   operation.remove_prefix(operation.rfind('.') + 1);
   std::string line;
   line.reserve(64);
-  return line += operation;
+  line += operation;
+  return line += '(';
 }
 
 void KeepLine(std::string line) {
+  line += ')';
   if (TheCalls().trace) std::fprintf(stderr, "[sdk] %s\n", line.c_str());
   TheCalls().lines.Add(std::move(line));
 }
 
-bool GiveText(const char* operation, const std::optional<std::string>& fallback, std::string& out) {
-  return WithAnswer(operation, [&](const Answer& answer) {
-    const auto* flag = std::get_if<bool>(&answer);
-    if (const auto* text = std::get_if<std::string>(&answer)) {
-      out = *text;
-    } else if (const auto* number = std::get_if<std::int64_t>(&answer)) {
-      out = std::to_string(*number);
-    } else if (fallback) {
-      out = *fallback;
-    } else {
-      return false;
-    }
-    return flag == nullptr || *flag;
-  });
+bool Operation::Text(const std::optional<std::string>& fallback, std::string& out) const {
+  const auto answer = FindAnswer(name_);
+  const auto* flag = std::get_if<bool>(answer.get());
+  if (const auto* text = std::get_if<std::string>(answer.get())) {
+    out = *text;
+  } else if (const auto* number = std::get_if<std::int64_t>(answer.get())) {
+    out = std::to_string(*number);
+  } else if (fallback) {
+    out = *fallback;
+  } else {
+    return false;
+  }
+  return flag == nullptr || *flag;
 }
 
-bool GiveOwnText(const char* operation, const std::string& own, std::string& out) {
-  return WithAnswer(operation, [&](const Answer& answer) {
-    const auto* text = std::get_if<std::string>(&answer);
-    const auto* flag = std::get_if<bool>(&answer);
-    out = text == nullptr ? own : *text;
-    return flag == nullptr || *flag;
-  });
+std::string Operation::EventText(const std::string& own) const {
+  const auto answer = FindAnswer(name_);
+  if (const auto* text = std::get_if<std::string>(answer.get())) return *text;
+  const auto* flag = std::get_if<bool>(answer.get());
+  return flag == nullptr || *flag ? own : "";
 }
 
-std::optional<std::int64_t> GivenNumber(const char* operation) {
-  return WithAnswer(operation, [](const Answer& answer) -> std::optional<std::int64_t> {
-    if (const auto* number = std::get_if<std::int64_t>(&answer)) return *number;
-    if (const auto* flag = std::get_if<bool>(&answer)) return *flag ? 1 : 0;
-    return std::nullopt;
-  });
+std::int32_t Operation::Code(std::int32_t success, std::int32_t failed) const {
+  const auto answer = FindAnswer(name_);
+  if (const auto* number = std::get_if<std::int64_t>(answer.get())) return static_cast<std::int32_t>(*number);
+  const auto* flag = std::get_if<bool>(answer.get());
+  return flag == nullptr || *flag ? success : failed;
 }
 
-bool GiveFlag(const char* operation, bool fallback) { return GivenNumber(operation).value_or(fallback ? 1 : 0) != 0; }
-
-std::int32_t GiveNumber(const char* operation, std::int32_t fallback) {
-  return static_cast<std::int32_t>(GivenNumber(operation).value_or(fallback));
-}
-
-std::int32_t GiveCode(const char* operation, std::int32_t success, std::int32_t failed) {
-  return WithAnswer(operation, [&](const Answer& answer) {
-    if (const auto* number = std::get_if<std::int64_t>(&answer)) return static_cast<std::int32_t>(*number);
-    const auto* flag = std::get_if<bool>(&answer);
-    return flag == nullptr || *flag ? success : failed;
-  });
+std::optional<std::int64_t> Operation::NumberAnswer() const {
+  const auto answer = FindAnswer(name_);
+  if (const auto* number = std::get_if<std::int64_t>(answer.get())) return *number;
+  if (const auto* flag = std::get_if<bool>(answer.get())) return *flag ? 1 : 0;
+  return std::nullopt;
 }
 
 std::vector<std::string> TakeCalls() { return TheCalls().lines.Take(); }
@@ -251,19 +236,16 @@ void SetAnswer(const std::string& name, Answer answer) {
   if (std::holds_alternative<std::monostate>(answer)) {
     calls.answers.erase(name);
   } else {
-    calls.answers.insert_or_assign(name, std::move(answer));
+    calls.answers[name] = std::make_shared<const Answer>(std::move(answer));
   }
   calls.hasAnswers = !calls.answers.empty();
 }
 
-void ForgetCalls() {
+void ForgetAnswers() {
   Calls& calls = TheCalls();
-  {
-    std::lock_guard lock(calls.mutex);
-    calls.answers.clear();
-    calls.hasAnswers = false;
-  }
-  calls.lines.Take();
+  std::lock_guard lock(calls.mutex);
+  calls.answers.clear();
+  calls.hasAnswers = false;
 }
 
 }  // namespace tarn::velora::offline

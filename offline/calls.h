@@ -1,5 +1,5 @@
-// What every operation of the runtime does first: run the call hook, write down its call line, look for the answer
-// that a player or a test has set.
+// The start of every operation: runs the call hook, records the call line and returns the operation's result, which a
+// player or a test may have set.
 #pragma once
 
 #include <concepts>
@@ -30,8 +30,10 @@ namespace tarn::velora::offline {
 
 class Record;
 
-// Lines until somebody takes them. When nobody does, the oldest give way, so that a long run needs no more memory
-// than a short one.
+constexpr std::int32_t kOk = 0;
+constexpr std::int32_t kFailed = 1;
+
+// Lines kept until they are taken. The oldest are dropped when there are too many, so that memory use is bounded.
 class LineBuffer {
  public:
   void Add(std::string line);
@@ -43,25 +45,24 @@ class LineBuffer {
   std::size_t bytes_ = 0;
 };
 
-// While one lives, operations that this thread runs call no hook and take no set answers: so the runtime itself reads
-// and writes the records that scripts hand in.
-class Quiet {
+// Disables the call hook and the set answers on this thread while it lives, for the runtime's own access to records.
+class ControlPause {
  public:
-  Quiet();
-  ~Quiet();
-  Quiet(const Quiet&) = delete;
-  Quiet& operator=(const Quiet&) = delete;
+  ControlPause();
+  ~ControlPause();
+  ControlPause(const ControlPause&) = delete;
+  ControlPause& operator=(const ControlPause&) = delete;
 };
 
-// Runs the call hook, if one is set. It may throw and may call any operation: no lock may be held here.
+// Runs the call hook, if one is set. It may throw and may call any operation, so no lock may be held here.
 void RunHook(const char* operation);
 
-// Text that stands in a call line as it is.
+// An argument that is written to the call line without quotes.
 struct Verbatim {
   std::string text;
 };
 
-// Appends an argument in the form that call lines give it; text is quoted, a null pointer is the word null.
+// Appends an argument in the form used in call lines. Strings are quoted; null pointers are written as null.
 void Append(std::string& line, std::string_view text);
 void Append(std::string& line, const char* text);
 void Append(std::string& line, double number);
@@ -81,7 +82,7 @@ void Append(std::string& line, Number number) {
 
 inline void Append(std::string& line, bool flag) { line += flag ? "true" : "false"; }
 
-// Appends the arguments with a comma and a space between them.
+// Appends the arguments, separated by commas.
 template <class... Arguments>
 void AppendAll(std::string& line, const Arguments&... arguments) {
   [[maybe_unused]] const char* separator = "";
@@ -95,46 +96,56 @@ std::string Joined(const Arguments&... arguments) {
   return text;
 }
 
-// A line that begins with the operation's name; the class in front of a record class function's ("OrderInfo.New") is
-// left out.
+// The result of an operation: the answer set for it, looked up on each use, or else a default.
+class Operation {
+ public:
+  explicit Operation(const char* name) : name_(name) {}
+
+  // For an operation that fills a string: stores the set string or number in `out`, else `fallback`. Returns false,
+  // with `out` unspecified, if the answer is false or if there is neither an answer nor a fallback.
+  bool Text(const std::optional<std::string>& fallback, std::string& out) const;
+
+  // The string of an event that repeats `own`: the set string instead, or an empty one if the answer is false. Numbers
+  // are ignored, since they may be the event's code.
+  std::string EventText(const std::string& own) const;
+
+  // The set number, with a boolean as 1 or 0.
+  template <class Value>
+  Value Number(Value fallback) const {
+    const std::optional<std::int64_t> number = NumberAnswer();
+    return number ? static_cast<Value>(*number) : fallback;
+  }
+  bool Flag(bool fallback) const { return Number(fallback); }
+
+  // The code of the operation's event: the set number; `failed` if the answer is false.
+  std::int32_t Code(std::int32_t success = kOk, std::int32_t failed = kFailed) const;
+
+ private:
+  std::optional<std::int64_t> NumberAnswer() const;
+
+  const char* name_;
+};
+
+// Returns the start of a call line, "name(". Class names ("OrderInfo.New") are left out.
 std::string BeginLine(std::string_view operation);
 
-// Keeps a finished line for TakeCalls and prints it where tracing is on.
+// Closes the call line, keeps it for TakeCalls and prints it if tracing is on.
 void KeepLine(std::string line);
 
-// Opens an operation: the hook first, then the call line. It may throw, and nothing has happened then.
+// Starts an operation: runs the hook, then records the call line. If this throws, nothing has been recorded.
 template <class... Arguments>
-void Call(const char* operation, const Arguments&... arguments) {
+Operation Call(const char* operation, const Arguments&... arguments) {
   RunHook(operation);
   std::string line = BeginLine(operation);
-  line += '(';
   AppendAll(line, arguments...);
-  line += ')';
   KeepLine(std::move(line));
+  return Operation(operation);
 }
 
-// What an operation that fills a text answers: the set text, else `fallback`. False when the set answer is false or
-// there is no fallback; `out` then means nothing, though it may be written, as the SDK may write it.
-bool GiveText(const char* operation, const std::optional<std::string>& fallback, std::string& out);
-
-// The same for an operation whose event carries its own text back: a set number, which may be the event's code, is no
-// text.
-bool GiveOwnText(const char* operation, const std::string& own, std::string& out);
-
-// The number that is set as an operation's answer, a flag as 1 or 0.
-std::optional<std::int64_t> GivenNumber(const char* operation);
-
-// What an operation that returns a flag or a number answers.
-bool GiveFlag(const char* operation, bool fallback);
-std::int32_t GiveNumber(const char* operation, std::int32_t fallback);
-
-// The code with which an operation's event arrives: a set number is the code, a set false means `failed`.
-std::int32_t GiveCode(const char* operation, std::int32_t success, std::int32_t failed);
-
-// Whether an operation, records' getters and setters included, has that name.
+// Whether there is an operation of that name, getters and setters of records included.
 bool IsOperation(std::string_view name);
 
-// Forgets the call lines and the set answers.
-void ForgetCalls();
+// Removes all set answers.
+void ForgetAnswers();
 
 }  // namespace tarn::velora::offline

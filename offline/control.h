@@ -1,5 +1,5 @@
-// How a player or a test steers the offline runtime: what was called, what to answer, what to post.
-// Every function may be called from any thread unless it says otherwise.
+// The controls of the offline runtime, for a player or a test: recorded calls, set answers, posted events.
+// Every function may be called from any thread unless its comment says otherwise.
 #pragma once
 
 #include <cstddef>
@@ -17,10 +17,10 @@
 
 namespace tarn::velora::offline {
 
-// What an operation answers: monostate is the default again.
+// An operation's canned result; monostate restores the default.
 using Answer = std::variant<std::monostate, bool, std::int64_t, std::string>;
 
-// A field's value as a script gives it; converted to the field's own type where it is stored.
+// A field's value as a script passes it; converted to the field's type when it is stored.
 using FieldScalar = std::variant<bool, std::int64_t, double, std::string>;
 struct FieldMap : std::unordered_map<std::string, FieldScalar> {
   using unordered_map::unordered_map;
@@ -31,68 +31,69 @@ using FieldList = std::vector<FieldScalar>;
 using FieldValue = std::variant<FieldScalar, FieldMap, FieldList>;
 using Fields = std::unordered_map<std::string, FieldValue>;
 
-// The call lines since the last TakeCalls, oldest first. The newest 100,000 are kept, fewer where they are long and
-// come to more than 64 MiB.
+// Returns the call lines since the last TakeCalls, oldest first. The newest 100,000 are kept, or fewer if they exceed
+// 64 MiB.
 VELORA_SDK_API std::vector<std::string> TakeCalls();
 
-// The log lines since the last TakeLog, each as it goes to stderr: "[VELORA] 0 text", "[VELORA] ERROR text". As many
-// are kept as there are of call lines.
+// Returns the log lines since the last TakeLog, as they are written to stderr: "[VELORA] 0 text", "[VELORA] ERROR
+// text". The same limits apply.
 VELORA_SDK_API std::vector<std::string> TakeLog();
 
-// Prints each call line to stderr as "[sdk] LINE" from now on, or no longer.
+// Sets whether each call line is printed to stderr as "[sdk] LINE" (off by default).
 VELORA_SDK_API void SetTrace(bool enabled);
 
-// Whether log lines go to stderr as well as to TakeLog (they do by default).
+// Sets whether log lines are also written to stderr (on by default).
 VELORA_SDK_API void SetLogToStderr(bool enabled);
 
-// Whether the word ERROR stands out in red there (it does not by default).
+// Sets whether the word ERROR is red there (off by default).
 VELORA_SDK_API void SetLogColour(bool enabled);
 
-// What the operation `name` ("getChannel", "OrderInfo.New", "OrderInfo.get_aid", "OrderInfo.toString") answers from
-// now on: text or false for one that fills a string, a boolean or an integer for one that returns it. False for a
-// factory gives no record. An operation that is answered by an event takes the event's flag, code or order status from
-// it; false is a failure, and where a whole list, a text or a view is the answer, an empty or missing one. A name that
-// no operation has throws std::invalid_argument.
+// Sets the result of an operation ("getChannel", "OrderInfo.New", "OrderInfo.get_aid", "OrderInfo.toString"):
+// - that fills a string: the string, or false if there is none;
+// - that returns a boolean or a number: that value;
+// - that makes a record: false for no record;
+// - that is answered by an event: the event's flag, code or order status, with false for failure; for an event with a
+//   list or a string and for a view, false for an empty one or none.
+// Throws std::invalid_argument if there is no operation of that name.
 VELORA_SDK_API void SetAnswer(const std::string& name, Answer answer);
 
 // Queues an event for the next SwapEvents. An empty reference is ignored.
 VELORA_SDK_API void Post(std::shared_ptr<Event> event);
 
-// Records of the runtime, with every field named in `fields` set, read-only ones included. A name that the class
-// does not have and a value that does not fit its field throw std::invalid_argument; the text names class and field.
+// Return a new record with the given fields, which may be read-only ones. Throw std::invalid_argument, with a message
+// that names class and field, if the class has no such field or the value does not fit it.
 VELORA_SDK_API std::shared_ptr<OrderInfo> MakeOrder(const Fields& fields);
 VELORA_SDK_API std::shared_ptr<AccountInfo> MakeAccount(const Fields& fields);
 VELORA_SDK_API std::shared_ptr<SkuDetailsInfo> MakeSku(const Fields& fields);
 VELORA_SDK_API std::shared_ptr<PadRecord> MakePad(const Fields& fields);
 
-// Share requests that are made from now on have these fields from their birth. Throws as MakeOrder does.
+// Sets the initial fields of share requests made from now on. Throws as MakeOrder does.
 VELORA_SDK_API void SetNewShare(const Fields& fields);
 
-// Puts a product into the registry, its maps included, in the place of one of the same id.
+// Adds a product to the registry, replacing one of the same id.
 VELORA_SDK_API void SetProduct(ProductInfo product);
 
-// Gives zvGetCheckedOrders' list as it stands, empty references allowed.
+// Sets the list that zvGetCheckedOrders returns; null entries are allowed.
 VELORA_SDK_API void SetCheckedOrders(std::vector<std::shared_ptr<OrderInfo>> orders);
 
-// The registered download handlers, in the order of their registration. They belong to who registered them, and are
-// valid until they are removed.
+// Returns the registered download handlers, in order of registration. They are not owned, and are valid until they are
+// removed.
 VELORA_SDK_API std::vector<download::SyncDownloadHandler*> Handlers();
 
-// The records of all classes that are alive.
+// Returns the number of records alive, of all classes.
 VELORA_SDK_API std::size_t LiveRecords();
 
-// Runs `hook` at the start of every operation that the runtime did not start itself, on its thread, until it is
-// replaced; null for none. It is given the name under which SetAnswer knows the operation; records' getters and
-// setters ("OrderInfo.get_aid") and "SwapEvents" have it too, the log library has not. For tests that let an operation
-// throw or call back.
+// Sets a function to be run at the start of every operation, on the operation's thread; null for none. Its argument is
+// the name used by SetAnswer; getters and setters of records ("OrderInfo.get_aid") and "SwapEvents" are included, the
+// log library and the runtime's own calls are not. Lets tests make an operation throw or call back.
 VELORA_SDK_API void SetCallHook(void (*hook)(const char* operation));
 
-// Forgets all state, answers, queued events, lines and handlers, drops the answers that have not begun and waits for
-// the one that has. Log channels, the hook and the switches stay as they are.
+// Forgets all state, answers, handlers, lines and undelivered events; waits for an event that is being queued. Log
+// channels, the hook and the switches are kept.
 VELORA_SDK_API void Reset();
 
-// Stops the runtime's thread once it has answered what it still has to; call it before the process ends. A later
-// operation starts it anew.
+// Stops the runtime's thread after it has queued all pending events; call it before the process ends. A later
+// operation starts it again.
 VELORA_SDK_API void Stop();
 
 }  // namespace tarn::velora::offline

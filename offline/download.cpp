@@ -1,5 +1,5 @@
-// The download service. Nothing is downloaded: texts come back in the events. Handlers hear only what a player makes
-// them hear, on the thread of Lua.
+// The download service. Nothing is downloaded; events repeat the strings passed in. Handlers are only called through
+// the player, on the thread of Lua.
 #include "platform/download.h"
 
 #include <algorithm>
@@ -14,28 +14,25 @@ using namespace offline;
 
 namespace {
 
-// Marks the service's own events, so that those that a player posts can be told from them.
+// Marks the service's own events, to tell them from those that a player posts.
 struct OwnEvent {
   virtual ~OwnEvent() = default;
 };
 
-template <class Layout>
-struct Own final : Layout, OwnEvent {
-  using Layout::Layout;
+template <class Base>
+struct OwnLayout final : Base, OwnEvent {
+  using Base::Base;
 };
 
 template <class Kind, class... Values>
 std::shared_ptr<Event> MakeOwn(Values&&... values) {
-  auto event = std::make_shared<Own<typename Kind::Layout>>(Kind::kType);
-  SetPayload<typename Kind::Layout>(*event, std::forward<Values>(values)...);
-  return event;
+  return MakeEvent<Kind, OwnLayout<typename Kind::Layout>>(std::forward<Values>(values)...);
 }
 
 bool IsOwn(const Event& event) { return dynamic_cast<const OwnEvent*>(&event) != nullptr; }
 
 void ReplyIfEnabled(std::vector<std::shared_ptr<Event>> answers) {
-  const bool enabled = LockedState()->downloadEvents;
-  if (enabled) Reply(std::move(answers));
+  if (Get(&State::downloadEvents)) Reply(std::move(answers));
 }
 
 Verbatim Named(const SyncDownloadHandler* handler) { return {handler == nullptr ? "null" : "<handler>"}; }
@@ -43,18 +40,15 @@ Verbatim Named(const SyncDownloadHandler* handler) { return {handler == nullptr 
 }  // namespace
 
 void init() {
-  Call(__func__);
-  if (GiveFlag(__func__, true)) ReplyIfEnabled({MakeOwn<events::DownloadInited>()});
+  if (Call(__func__).Flag(true)) ReplyIfEnabled({MakeOwn<events::DownloadInited>()});
 }
 
-// A download command runs through at once; its text stands in every event.
+// A download command completes at once; every event repeats it.
 void extendFunc(const std::string& text) {
-  Call(__func__, text);
-  if (!GiveFlag(__func__, true)) return;
+  if (!Call(__func__, text).Flag(true)) return;
   std::vector<std::shared_ptr<Event>> answers = {MakeOwn<events::DownloadProgress>(text),
                                                  MakeOwn<events::DownloadFinish>(text)};
-  const bool second = LockedState()->downloadFinish2;
-  if (second) answers.push_back(MakeOwn<events::DownloadFinish2>(text));
+  if (Get(&State::downloadFinish2)) answers.push_back(MakeOwn<events::DownloadFinish2>(text));
   ReplyIfEnabled(std::move(answers));
 }
 
@@ -64,21 +58,13 @@ void disableDownloadFinish2() {
 }
 
 bool query(std::string& out) {
-  Call(__func__);
-  if (!GiveText(__func__, "{\"state\":\"idle\"}", out)) return false;
-  ReplyIfEnabled({MakeOwn<events::DownloadProgress>(out)});
-  return true;
+  const bool found = Call(__func__).Text("{\"state\":\"idle\"}", out);
+  if (found) ReplyIfEnabled({MakeOwn<events::DownloadProgress>(out)});
+  return found;
 }
 
-bool getDownloadSDKVersion(std::string& out) {
-  Call(__func__);
-  return GiveText(__func__, "offline_download_sdk", out);
-}
-
-bool getOrbitSessionId(std::string& out) {
-  Call(__func__);
-  return GiveText(__func__, "offline_orbit_session", out);
-}
+bool getDownloadSDKVersion(std::string& out) { return Call(__func__).Text("offline_download_sdk", out); }
+bool getOrbitSessionId(std::string& out) { return Call(__func__).Text("offline_orbit_session", out); }
 
 void addSyncDownloadHandler(SyncDownloadHandler* handler) {
   Call(__func__, Named(handler));
@@ -93,7 +79,7 @@ void removeSyncDownloadHandler(SyncDownloadHandler* handler) {
   std::erase(LockedState()->downloadHandlers, handler);
 }
 
-// Off, it takes back what is on its way.
+// Disabling also drops the events that have not been delivered.
 void enableAsyncEvent(bool enabled) {
   Call(__func__, enabled);
   LockedState()->downloadEvents = enabled;

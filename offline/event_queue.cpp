@@ -153,7 +153,7 @@ void SwapEvents(std::vector<std::shared_ptr<Event>>& events) {
   offline::RunHook("SwapEvents");
   offline::Queue& queue = offline::TheQueue();
   if (!queue.hasEvents) return;
-  const offline::Quiet quiet;
+  const offline::ControlPause pause;
   std::unique_lock lock(queue.mutex);
   while (!queue.effects.empty()) {
     offline::Effects current;

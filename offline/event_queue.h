@@ -33,9 +33,9 @@ void SetPayload(Layout& event, Values&&... values) {
 }
 
 // A new event of that kind, `MakeEvent<events::LoginDone>(0)`.
-template <class Kind, class... Values>
+template <class Kind, class Made = typename Kind::Layout, class... Values>
 std::shared_ptr<Event> MakeEvent(Values&&... values) {
-  auto event = std::make_shared<typename Kind::Layout>(Kind::kType);
+  auto event = std::make_shared<Made>(Kind::kType);
   SetPayload<typename Kind::Layout>(*event, std::forward<Values>(values)...);
   return event;
 }

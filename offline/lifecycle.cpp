@@ -12,67 +12,35 @@ using namespace offline;
 
 namespace {
 
-constexpr std::int32_t kOk = 0;
-constexpr std::int32_t kFailed = 1;
 constexpr std::int32_t kBindOk = 130;
 constexpr std::int32_t kBindFailed = -130;
 
-std::optional<std::string> Find(const StringMap& texts, const std::string& key) {
-  const auto found = texts.find(key);
-  return found == texts.end() ? std::nullopt : std::optional(found->second);
-}
-
-std::int32_t FindNumber(const std::string& name, std::int32_t fallback) {
-  LockedState state;
-  const auto found = state->numberProperties.find(name);
-  return found == state->numberProperties.end() ? fallback : found->second;
-}
-
-// A login, a switch of accounts: LoginDone, and the player is in when its code is 0.
-void ReplyLogin(std::int32_t code) {
+// For a login or a switch of accounts: the player is logged in if the code is 0.
+void ReplyLogin(const Operation& call) {
+  const auto code = call.Code();
   Reply({MakeEvent<events::LoginDone>(code)}, [code] { LockedState()->loggedIn = code == kOk; });
 }
 
-enum class OptionForm { kText, kNumber, kFlag };
-
-// The rows of zvLumoSetOption: a name that begins with "int" or "bool" as a word of its own ("INT_FPS", "int_fps",
-// "intFps", but not "interval") has a value of that form, every other name a text. The SDK gets a bare pointer, to a
-// 32-bit integer, to zero-terminated text or to a one-byte flag, and nothing tells it which: as with the SDK itself,
-// the script must give the value in the form that the option's name asks for.
-struct OptionPrefix {
-  const char* text;
-  char first;  // from here to `last`: letters that carry the word on
-  char last;
-  OptionForm form;
-};
-constexpr OptionPrefix kOptionPrefixes[] = {
-    {"int", 'a', 'z', OptionForm::kNumber},
-    {"INT", 'A', 'Z', OptionForm::kNumber},
-    {"bool", 'a', 'z', OptionForm::kFlag},
-    {"BOOL", 'A', 'Z', OptionForm::kFlag},
-};
-
-OptionForm FormOf(const char* name) {
-  for (const OptionPrefix& prefix : kOptionPrefixes) {
-    const std::size_t length = std::strlen(prefix.text);
-    if (std::strncmp(name, prefix.text, length) != 0) continue;
-    if (name[length] < prefix.first || name[length] > prefix.last) return prefix.form;
-  }
-  return OptionForm::kText;
+// Whether `name` starts with `word` and no letter of the same case follows: "INT_FPS", "int_fps" and "intFps" start
+// with a word, "interval" does not.
+bool StartsWithWord(const char* name, std::string_view word) {
+  if (!std::string_view(name).starts_with(word)) return false;
+  const char firstLetter = word[0] < 'a' ? 'A' : 'a';
+  const char next = name[word.size()];
+  return next < firstLetter || next >= firstLetter + 26;
 }
 
+// The SDK gets a bare pointer and, as the SDK itself would, relies on the script to pass the type that the option's
+// name asks for: a 32-bit integer for "int", a one-byte flag for "bool", else a zero-terminated string.
 std::string OptionValue(const char* name, const void* value) {
   if (name == nullptr || value == nullptr) return "null";
-  switch (FormOf(name)) {
-    case OptionForm::kNumber: {
-      std::int32_t number = 0;
-      std::memcpy(&number, value, sizeof number);
-      return Joined(number);
-    }
-    case OptionForm::kFlag:
-      return Joined(*static_cast<const unsigned char*>(value) != 0);
-    case OptionForm::kText:
-      break;
+  if (StartsWithWord(name, "int") || StartsWithWord(name, "INT")) {
+    std::int32_t number = 0;
+    std::memcpy(&number, value, sizeof number);
+    return Joined(number);
+  }
+  if (StartsWithWord(name, "bool") || StartsWithWord(name, "BOOL")) {
+    return Joined(*static_cast<const unsigned char*>(value) != 0);
   }
   return Joined(static_cast<const char*>(value));
 }
@@ -80,51 +48,40 @@ std::string OptionValue(const char* name, const void* value) {
 }  // namespace
 
 void zvInit() {
-  Call(__func__);
-  const auto code = GiveCode(__func__, kOk, kFailed);
+  const auto code = Call(__func__).Code();
   Reply({MakeEvent<events::FinishInit>(code)}, [code] { LockedState()->initialised = code == kOk; });
 }
 
-void zvLogin() {
-  Call(__func__);
-  ReplyLogin(GiveCode(__func__, kOk, kFailed));
-}
+void zvLogin() { ReplyLogin(Call(__func__)); }
 
 void zvLogout() {
-  Call(__func__);
-  const auto code = GiveCode(__func__, kOk, kFailed);
+  const auto code = Call(__func__).Code();
   Reply({MakeEvent<events::LogoutDone>(code)}, [code] {
     if (code == kOk) LockedState()->loggedIn = false;
   });
 }
 
-void zvSwitchAccount() {
-  Call(__func__);
-  ReplyLogin(GiveCode(__func__, kOk, kFailed));
-}
+void zvSwitchAccount() { ReplyLogin(Call(__func__)); }
 
 void zvGuestBind() {
-  Call(__func__);
-  const auto code = GiveCode(__func__, kBindOk, kBindFailed);
+  const auto code = Call(__func__).Code(kBindOk, kBindFailed);
   Reply({MakeEvent<events::LoginDone>(code)}, [code] { LockedState()->bound = code == kBindOk; });
 }
 
-// The manager view and the pause view close as soon as they open: there is nobody to look at them. Where the answer is
-// false they do not open.
+// The manager and pause views close at once, since there is nobody to look at them. If the answer is false, they do not
+// open.
 void zvOpenManager() {
-  Call(__func__);
-  if (GiveFlag(__func__, true)) Reply({MakeEvent<events::CloseManagerView>()});
+  if (Call(__func__).Flag(true)) Reply({MakeEvent<events::CloseManagerView>()});
 }
 
 void zvOpenPauseView() {
-  Call(__func__);
-  if (GiveFlag(__func__, true)) Reply({MakeEvent<events::ClosePauseView>(), MakeEvent<events::ContinueGame>()});
+  if (!Call(__func__).Flag(true)) return;
+  Reply({MakeEvent<events::ClosePauseView>(), MakeEvent<events::ContinueGame>()});
 }
 
-// The exit view's question is answered with yes.
+// The player confirms the exit.
 void zvOpenExitView() {
-  Call(__func__);
-  const bool opened = GiveFlag(__func__, true);
+  const bool opened = Call(__func__).Flag(true);
   Reply({opened ? MakeEvent<events::ExitApp>() : MakeEvent<events::ExitOpenExitViewFailed>()});
 }
 
@@ -142,68 +99,23 @@ void setJFSauthWithKey(const std::string& key, const std::string& value, bool fl
   Call(__func__, key, value, flag);
 }
 
-bool isInit() {
-  Call(__func__);
-  const bool initialised = LockedState()->initialised;
-  return GiveFlag(__func__, initialised);
-}
+bool isInit() { return Call(__func__).Flag(Get(&State::initialised)); }
+bool hasLogin() { return Call(__func__).Flag(Get(&State::loggedIn)); }
 
-bool hasLogin() {
-  Call(__func__);
-  const bool loggedIn = LockedState()->loggedIn;
-  return GiveFlag(__func__, loggedIn);
-}
+// Identifiers show that there is no real service.
+bool getChannel(std::string& out) { return Call(__func__).Text("offline", out); }
+bool getAppChannel(std::string& out) { return Call(__func__).Text("offline_app", out); }
+bool getPlatform(std::string& out) { return Call(__func__).Text("offline_platform", out); }
+bool getAuthTypeName(std::string& out) { return Call(__func__).Text("offline_auth", out); }
+bool getUdid(std::string& out) { return Call(__func__).Text("offline_udid", out); }
+bool getChannelByImsi(std::string& out) { return Call(__func__).Text("offline_imsi", out); }
+bool getChannelByImsiEx(std::string& out) { return Call(__func__).Text("offline_imsi_ex", out); }
+bool getCCTypeByImsi(std::string& out) { return Call(__func__).Text("offline_cc_type", out); }
 
-// Identifiers say that nothing real stands behind them.
-bool getChannel(std::string& out) {
-  Call(__func__);
-  return GiveText(__func__, "offline", out);
-}
-
-bool getAppChannel(std::string& out) {
-  Call(__func__);
-  return GiveText(__func__, "offline_app", out);
-}
-
-bool getPlatform(std::string& out) {
-  Call(__func__);
-  return GiveText(__func__, "offline_platform", out);
-}
-
-bool getAuthTypeName(std::string& out) {
-  Call(__func__);
-  return GiveText(__func__, "offline_auth", out);
-}
-
-bool getUdid(std::string& out) {
-  Call(__func__);
-  return GiveText(__func__, "offline_udid", out);
-}
-
-bool getChannelByImsi(std::string& out) {
-  Call(__func__);
-  return GiveText(__func__, "offline_imsi", out);
-}
-
-bool getChannelByImsiEx(std::string& out) {
-  Call(__func__);
-  return GiveText(__func__, "offline_imsi_ex", out);
-}
-
-bool getCCTypeByImsi(std::string& out) {
-  Call(__func__);
-  return GiveText(__func__, "offline_cc_type", out);
-}
-
-bool getSDKVersion(const std::string& text, std::string& out) {
-  Call(__func__, text);
-  return GiveText(__func__, "offline_sdk", out);
-}
+bool getSDKVersion(const std::string& text, std::string& out) { return Call(__func__, text).Text("offline_sdk", out); }
 
 bool getUserInfo(const std::string& key, std::string& out) {
-  Call(__func__, key);
-  const auto value = Find(LockedState()->userInfo, key);
-  return GiveText(__func__, value, out);
+  return Call(__func__, key).Text(Find(&State::userInfo, key), out);
 }
 
 void setUserInfo(const std::string& key, const std::string& value) {
@@ -212,15 +124,11 @@ void setUserInfo(const std::string& key, const std::string& value) {
 }
 
 bool getPropStr(const std::string& name, std::string& out) {
-  Call(__func__, name);
-  const auto value = Find(LockedState()->textProperties, name);
-  return GiveText(__func__, value, out);
+  return Call(__func__, name).Text(Find(&State::textProperties, name), out);
 }
 
 bool getPropStr(const std::string& name, const std::string& second, std::string& out) {
-  Call(__func__, name, second);
-  const auto value = Find(LockedState()->textProperties, name);
-  return GiveText(__func__, value.value_or(second), out);
+  return Call(__func__, name, second).Text(Find(&State::textProperties, name).value_or(second), out);
 }
 
 void setPropStr(const std::string& name, const std::string& value) {
@@ -229,8 +137,7 @@ void setPropStr(const std::string& name, const std::string& value) {
 }
 
 std::int32_t getPropInt(const std::string& name, std::int32_t number) {
-  Call(__func__, name, number);
-  return GiveNumber(__func__, FindNumber(name, number));
+  return Call(__func__, name, number).Number(Find(&State::numberProperties, name).value_or(number));
 }
 
 void setPropInt(const std::string& name, std::int32_t value) {
@@ -238,29 +145,20 @@ void setPropInt(const std::string& name, std::int32_t value) {
   LockedState()->numberProperties.insert_or_assign(name, value);
 }
 
-// A guest account is bound once zvGuestBind is answered, to whatever is asked for.
-bool isBinded(const std::string& text) {
-  Call(__func__, text);
-  const bool bound = LockedState()->bound;
-  return GiveFlag(__func__, bound);
-}
+// True for any name once zvGuestBind has completed.
+bool isBinded(const std::string& text) { return Call(__func__, text).Flag(Get(&State::bound)); }
 
-bool zvHasPlatform(const std::string& text) {
-  Call(__func__, text);
-  return GiveFlag(__func__, text == "offline_platform");
-}
+bool zvHasPlatform(const std::string& text) { return Call(__func__, text).Flag(text == "offline_platform"); }
 
-// A feature is there when the number property of its name is set and not 0.
+// A feature exists if the number property of its name is set and not 0.
 bool hasFeature(const std::string& feature) {
-  Call(__func__, feature);
-  return GiveFlag(__func__, FindNumber(feature, 0) != 0);
+  return Call(__func__, feature).Flag(Find(&State::numberProperties, feature).value_or(0) != 0);
 }
 
-// The command's text comes back in the event.
+// The event repeats the command.
 void zvExtendFunc(const std::string& text) {
-  Call(__func__, text);
   std::string reply;
-  if (GiveText(__func__, text, reply)) Reply({MakeEvent<events::ExtendFuncCall>(std::move(reply))});
+  if (Call(__func__, text).Text(text, reply)) Reply({MakeEvent<events::ExtendFuncCall>(std::move(reply))});
 }
 
 void zvvGenericFunctionCall(const std::string& text) { Call(__func__, text); }
@@ -278,12 +176,10 @@ void setCmdLineParameter(const char* text) {
   LockedState()->commandLine.swap(fresh);
 }
 
-// The pointer stays valid until the parameter is set or asked for again, or the runtime is reset.
+// The pointer is valid until the parameter is set or read again, or the runtime is reset.
 const char* getCmdLineParameter() {
-  Call(__func__);
-  std::optional<std::string> commandLine = LockedState()->commandLine;
   std::string answer;
-  if (!GiveText(__func__, commandLine, answer)) return nullptr;
+  if (!Call(__func__).Text(Get(&State::commandLine), answer)) return nullptr;
   LockedState state;
   if (state->commandLine == answer) return state->commandLine->c_str();
   state->answeredCommandLine.swap(answer);

@@ -12,7 +12,6 @@
 
 #include "offline/calls.h"
 #include "offline/control.h"
-#include "offline/log_lines.h"
 #include "platform/operations.h"
 
 namespace tarn::velora {
@@ -28,11 +27,11 @@ struct LogState {
   velora::offline::LineBuffer lines;
   std::atomic<bool> toStderr = true;
   std::atomic<bool> colour = false;
-  std::mutex mutex;                   // of the channels
+  std::mutex mutex;                   // guards `channels`
   std::vector<std::string> channels;  // the id is the index plus one
 };
 
-// Never destroyed: a line may be logged while the process ends.
+// Never destroyed: lines may be logged while the process ends.
 LogState& TheLog() {
   static LogState& log = *new LogState;
   return log;
@@ -44,14 +43,14 @@ std::string ChannelName(std::uint32_t channel) {
   return channel >= 1 && channel <= log.channels.size() ? log.channels[channel - 1] : "?";
 }
 
-// Appends the formatted text, however long it is.
+// Appends the formatted text, of any length.
 void AppendFormatted(std::string& line, const char* format, std::va_list arguments) {
   std::va_list again;
   va_copy(again, arguments);
   const int length = std::vsnprintf(nullptr, 0, format, again);
   va_end(again);
   if (length < 0) {
-    line += format;  // no text can be made of the arguments
+    line += format;  // the arguments cannot be formatted
     return;
   }
   const std::size_t start = line.size();
@@ -60,7 +59,7 @@ void AppendFormatted(std::string& line, const char* format, std::va_list argumen
   line.pop_back();
 }
 
-// `isError` makes the level stand out where that is wanted.
+// If `isError`, the level is printed in red when colours are on.
 void Write(std::uint32_t channel, const char* level, bool isError, const char* format, std::va_list arguments) {
   try {
     const std::string start = "[" + ChannelName(channel) + "] ";
@@ -112,6 +111,5 @@ namespace tarn::velora::offline {
 std::vector<std::string> TakeLog() { return log::TheLog().lines.Take(); }
 void SetLogToStderr(bool enabled) { log::TheLog().toStderr = enabled; }
 void SetLogColour(bool enabled) { log::TheLog().colour = enabled; }
-void ForgetLogLines() { log::TheLog().lines.Take(); }
 
 }  // namespace tarn::velora::offline

@@ -17,11 +17,10 @@ class Order final : public OrderInfo, public Record {
 #include "offline/record_fields.inc"
 
   bool produceCartInfo(std::string& out) override {
-    Call("OrderInfo.produceCartInfo", static_cast<const Record&>(*this));
-    return GiveText("OrderInfo.produceCartInfo", CartJson(), out);
+    return Call("OrderInfo.produceCartInfo", static_cast<const Record&>(*this)).Text(CartJson(), out);
   }
 
-  bool toString(std::string& out) override { return GiveTextForm("OrderInfo.toString", *this, out); }
+  bool toString(std::string& out) override { return TextForm("OrderInfo.toString", *this, out); }
 
   // What the registry knows of the product. Only for an order that nobody else has yet.
   void Describe(const ProductInfo& product) {
@@ -33,7 +32,7 @@ class Order final : public OrderInfo, public Record {
 
  private:
   std::string CartJson() {
-    const Quiet quiet;
+    const ControlPause pause;
     std::string productId;
     std::string productName;
     get_productId(productId);
@@ -63,33 +62,29 @@ std::shared_ptr<OrderInfo> OrderInfo::New(const std::string& productId) {
   const auto order = offline::Produce<offline::Order>("OrderInfo.New", offline::Joined(productId));
   if (order == nullptr) return nullptr;
   order->productId_ = productId;
-  offline::LockedState state;
-  const auto registered = state->products.find(productId);
-  if (registered != state->products.end()) order->Describe(registered->second);
+  if (const auto product = offline::Find(&offline::State::products, productId)) order->Describe(*product);
   return order;
 }
 
 void OrderInfo::getProductList(std::unordered_map<std::string, ProductInfo>& out) {
-  offline::Call("OrderInfo.getProductList");
-  if (offline::GiveFlag("OrderInfo.getProductList", true)) out = offline::LockedState()->products;
+  if (offline::Call("OrderInfo.getProductList").Flag(true)) out = offline::Get(&offline::State::products);
 }
 
 bool OrderInfo::hasProduct(const std::string& productId) {
-  offline::Call("OrderInfo.hasProduct", productId);
-  const bool registered = offline::LockedState()->products.contains(productId);
-  return offline::GiveFlag("OrderInfo.hasProduct", registered);
+  const offline::Operation call = offline::Call("OrderInfo.hasProduct", productId);
+  return call.Flag(offline::Find(&offline::State::products, productId).has_value());
 }
 
 bool OrderInfo::hasProduct(const std::shared_ptr<OrderInfo>& order) {
-  offline::Call("OrderInfo.hasProduct", order);
+  const offline::Operation call = offline::Call("OrderInfo.hasProduct", order);
   bool registered = false;
   if (order != nullptr) {
-    const offline::Quiet quiet;
+    const offline::ControlPause pause;
     std::string productId;
     order->get_productId(productId);
     registered = offline::LockedState()->products.contains(productId);
   }
-  return offline::GiveFlag("OrderInfo.hasProduct", registered);
+  return call.Flag(registered);
 }
 
 // Registers the bare id; a product that is known already keeps what is known of it.
@@ -113,14 +108,8 @@ void OrderInfo::regProduct(const std::string& productId, const std::string& name
 }
 
 std::int32_t OrderInfo::getProductType(const std::string& productId) {
-  offline::Call("OrderInfo.getProductType", productId);
-  std::int32_t type = 0;  // consumable
-  {
-    offline::LockedState state;
-    const auto found = state->productTypes.find(productId);
-    if (found != state->productTypes.end()) type = found->second;
-  }
-  return offline::GiveNumber("OrderInfo.getProductType", type);
+  const offline::Operation call = offline::Call("OrderInfo.getProductType", productId);
+  return call.Number(offline::Find(&offline::State::productTypes, productId).value_or(0));  // 0: consumable
 }
 
 void OrderInfo::setProductType(const std::string& productId, std::int32_t type) {
@@ -129,10 +118,9 @@ void OrderInfo::setProductType(const std::string& productId, std::int32_t type) 
 }
 
 bool OrderInfo::obj2Json(const std::shared_ptr<OrderInfo>& order, std::string& out) {
-  offline::Call("OrderInfo.obj2Json", order);
+  const offline::Operation call = offline::Call("OrderInfo.obj2Json", order);
   const auto* made = dynamic_cast<const offline::Order*>(order.get());
-  if (made == nullptr) return offline::GiveText("OrderInfo.obj2Json", std::nullopt, out);
-  return offline::GiveText("OrderInfo.obj2Json", made->Json(*made), out);
+  return call.Text(made == nullptr ? std::nullopt : std::optional(made->Json(*made)), out);
 }
 
 }  // namespace tarn::velora

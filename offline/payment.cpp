@@ -22,16 +22,16 @@ constexpr std::int32_t kServerCheckOk = 5;
 constexpr std::int32_t kServerCheckFailed = 6;
 constexpr std::int32_t kRestoreOk = 10;
 
-constexpr const char* kCurrency = "XTS";  // the code that is reserved for testing
+constexpr const char* kCurrency = "XTS";  // the currency code reserved for testing
 
 std::string OrderIdOf(OrderInfo& order) {
-  const Quiet quiet;
+  const ControlPause pause;
   std::string orderId;
   order.get_orderId(orderId);
   return orderId;
 }
 
-// The order gets its status and, if it has none, an id; a good one joins the list.
+// Sets the order's status and, if it has none, an id. An order that passed is added to the checked orders.
 void FinishCheck(const std::shared_ptr<OrderInfo>& order, std::int32_t status) {
   if (OrderIdOf(*order).empty()) {
     const std::int32_t number = ++LockedState()->lastOrderNumber;
@@ -49,20 +49,15 @@ void FinishConsume(const std::shared_ptr<OrderInfo>& order, std::int32_t status)
   if (status == kServerCheckOk) std::erase(LockedState()->checkedOrders, order);
 }
 
-// An item as the store would describe it: what the product registry knows, else the id alone.
+// Returns the store's description of an item, from the product registry; for an unknown one, only the id is known.
 std::shared_ptr<SkuDetailsInfo> DescribeSku(const std::string& type, const std::string& productId) {
-  ProductInfo product;
-  {
-    LockedState state;
-    const auto registered = state->products.find(productId);
-    if (registered != state->products.end()) product = registered->second;
-  }
+  const ProductInfo product = Find(&State::products, productId).value_or(ProductInfo());
   const double price = std::isfinite(product.productPrice) ? static_cast<double>(product.productPrice) : 0;
   char priceText[64];
   char microsText[64];
   std::snprintf(priceText, sizeof priceText, "%.2f", price);
   std::snprintf(microsText, sizeof microsText, "%.0f", std::round(price * 1e6));
-  const Quiet quiet;
+  const ControlPause pause;
   auto sku = MakeSku({});
   sku->set_productId(productId);
   sku->set_type(type);
@@ -75,27 +70,24 @@ std::shared_ptr<SkuDetailsInfo> DescribeSku(const std::string& type, const std::
 
 }  // namespace
 
-// One item per id; none when the answer is false.
+// The event has one item per id, or none if the answer is false.
 void zvQuerySkuDetails(const std::string& type, const StringList& productIds) {
-  Call(__func__, type, productIds);
   std::vector<std::shared_ptr<SkuDetailsInfo>> skus;
-  if (GiveFlag(__func__, true)) {
+  if (Call(__func__, type, productIds).Flag(true)) {
     for (const std::string& productId : productIds) skus.push_back(DescribeSku(type, productId));
   }
   Reply({MakeEvent<events::QuerySkuDetailsFinished>(std::move(skus))});
 }
 
 void zvCheckOrder(const std::shared_ptr<OrderInfo>& order) {
-  Call(__func__, order);
+  const auto status = Call(__func__, order).Code(kSdkCheckOk, kSdkCheckFailed);
   if (order == nullptr) return;
-  const auto status = GiveCode(__func__, kSdkCheckOk, kSdkCheckFailed);
   Reply({MakeEvent<events::OrderCheckDone>(order)}, [order, status] { FinishCheck(order, status); });
 }
 
 void zvConsume(const std::shared_ptr<OrderInfo>& order) {
-  Call(__func__, order);
+  const auto status = Call(__func__, order).Code(kServerCheckOk, kServerCheckFailed);
   if (order == nullptr) return;
-  const auto status = GiveCode(__func__, kServerCheckOk, kServerCheckFailed);
   Reply({MakeEvent<events::OrderCosumeDone>(order)}, [order, status] { FinishConsume(order, status); });
 }
 
@@ -104,13 +96,12 @@ void zvPrePay() { Call(__func__); }
 void zvQueryInventory() { Call(__func__); }
 
 void zvGetCheckedOrders(std::vector<std::shared_ptr<OrderInfo>>& out) {
-  Call(__func__);
-  if (GiveFlag(__func__, true)) out = LockedState()->checkedOrders;
+  if (Call(__func__).Flag(true)) out = Get(&State::checkedOrders);
 }
 
 void zvRemoveCheckedOrders(const std::string& orderId) {
   Call(__func__, orderId);
-  std::vector<std::shared_ptr<OrderInfo>> removed = LockedState()->checkedOrders;  // ids are read without the lock
+  auto removed = Get(&State::checkedOrders);  // the ids are read without the lock
   std::erase_if(removed, [&](const auto& order) { return order == nullptr || OrderIdOf(*order) != orderId; });
   LockedState state;
   std::erase_if(state->checkedOrders,
@@ -118,14 +109,10 @@ void zvRemoveCheckedOrders(const std::string& orderId) {
 }
 
 bool getFFChannelByPid(const std::string& productId, std::string& out) {
-  Call(__func__, productId);
-  const bool registered = LockedState()->products.contains(productId);
-  return GiveText(__func__, registered ? std::optional<std::string>("offline_ff_channel") : std::nullopt, out);
+  const Operation call = Call(__func__, productId);
+  return call.Text(Find(&State::products, productId) ? std::optional("offline_ff_channel") : std::nullopt, out);
 }
 
-std::int32_t DRPF(const std::string& text) {
-  Call(__func__, text);
-  return GiveNumber(__func__, 0);
-}
+std::int32_t DRPF(const std::string& text) { return Call(__func__, text).Number(0); }
 
 }  // namespace tarn::velora

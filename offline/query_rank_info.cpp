@@ -15,7 +15,7 @@ class RankQuery final : public QueryRankInfo, public Record {
 #define RECORD_FIELDS "platform/query_rank_info.def"
 #include "offline/record_fields.inc"
 
-  bool toString(std::string& out) override { return GiveTextForm("QueryRankInfo.toString", *this, out); }
+  bool toString(std::string& out) override { return TextForm("QueryRankInfo.toString", *this, out); }
 };
 
 }  // namespace

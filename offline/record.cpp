@@ -18,12 +18,12 @@ Record::Record(const char* recordClass, std::string madeWith)
 Record::~Record() { --liveRecords; }
 
 bool Record::ReadText(const char* operation, const std::string& field, std::string& out) const {
-  return GiveText(operation, Read(operation, field), out);
+  return Operation(operation).Text(Read(operation, field), out);
 }
 
 bool Record::ReadMap(const char* operation, const StringMap& field, StringMap& out) const {
   out = Read(operation, field);
-  return GiveFlag(operation, true);
+  return Operation(operation).Flag(true);
 }
 
 std::size_t LiveRecords() { return liveRecords; }

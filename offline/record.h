@@ -58,14 +58,13 @@ class Record {
   template <class Number>
   Number ReadNumber(const char* operation, const Number& field) const {
     const Number stored = Read(operation, field);
-    const std::optional<std::int64_t> given = GivenNumber(operation);
-    return given ? static_cast<Number>(*given) : stored;
+    return Operation(operation).Number(stored);
   }
 
   template <class Container>
   Container ReadContainer(const char* operation, const Container& field) const {
     Container content = Read(operation, field);
-    if (!GiveFlag(operation, true)) content.clear();
+    if (!Operation(operation).Flag(true)) content.clear();
     return content;
   }
 
@@ -79,11 +78,9 @@ class Record {
 
   // A text producer of the record: call line, set answer, else `Class(made with) {fields}`.
   template <class Derived>
-  bool GiveTextForm(const char* operation, const Derived& self, std::string& out) const {
-    Call(operation, static_cast<const Record&>(self));
-    std::string text;
-    Append(text, static_cast<const Record&>(self));
-    return GiveText(operation, text + " " + Json(self), out);
+  bool TextForm(const char* operation, const Derived& self, std::string& out) const {
+    const auto& record = static_cast<const Record&>(self);
+    return Call(operation, record).Text(Joined(record) + " " + Json(self), out);
   }
 
  private:
@@ -123,7 +120,7 @@ std::shared_ptr<Derived> MakeFilled(const Fields& fields) {
 // What a factory answers: a new record unless the set answer is false.
 template <class Derived>
 std::shared_ptr<Derived> Produce(const char* operation, std::string madeWith) {
-  if (!GiveFlag(operation, true)) return nullptr;
+  if (!Operation(operation).Flag(true)) return nullptr;
   return std::make_shared<Derived>(std::move(madeWith));
 }
 

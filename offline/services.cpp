@@ -11,168 +11,111 @@ using namespace offline;
 
 namespace {
 
-constexpr std::int32_t kOk = 0;
-constexpr std::int32_t kFailed = 1;
 constexpr std::int32_t kScanFailed = 10;
 constexpr std::int32_t kProtocolConfirmed = 0;
 constexpr std::int32_t kProtocolAccepted = 1;
 constexpr std::int32_t kProtocolRejected = 2;
 
-// A view that opens, and stays until the script closes it.
-void ReplyOpened(const char* operation) {
-  const bool opened = GiveFlag(operation, true);
-  Reply({opened ? MakeEvent<events::ShowViewOpened>() : MakeEvent<events::ShowViewFailed>()});
+// The view stays open until the script closes it.
+void ReplyOpened(const Operation& call) {
+  Reply({call.Flag(true) ? MakeEvent<events::ShowViewOpened>() : MakeEvent<events::ShowViewFailed>()});
 }
 
-void ReplyClosed(const char* operation) {
-  if (GiveFlag(operation, true)) Reply({MakeEvent<events::ShowViewClosed>()});
+void ReplyClosed(const Operation& call) {
+  if (call.Flag(true)) Reply({MakeEvent<events::ShowViewClosed>()});
 }
 
-void ReplyQRCode(const char* operation, const std::string& path) {
-  std::string file;
-  if (!GiveOwnText(operation, path, file)) file.clear();
-  Reply({MakeEvent<events::CreateQRCodeDone>(std::move(file))});
+// No picture is drawn.
+void ReplyQRCode(const Operation& call, const std::string& path) {
+  Reply({MakeEvent<events::CreateQRCodeDone>(call.EventText(path))});
 }
 
-// The scanner reads the very text that it was started with.
-void ReplyScan(const char* operation, const std::string& text) {
-  std::string scanned;
-  GiveOwnText(operation, text, scanned);
-  const auto code = GiveCode(operation, kOk, kScanFailed);
-  Reply({MakeEvent<events::CodeScannerFinish>(code, code == kOk ? std::move(scanned) : std::string())});
+// The scanner reads the string that it was started with.
+void ReplyScan(const Operation& call, const std::string& text) {
+  const auto code = call.Code(kOk, kScanFailed);
+  Reply({MakeEvent<events::CodeScannerFinish>(code, code == kOk ? call.EventText(text) : "")});
 }
 
-void ReplyNotice(const char* operation, const char* notice) {
+void ReplyNotice(const Operation& call, const char* notice) {
   std::string text;
-  if (GiveText(operation, notice, text)) Reply({MakeEvent<events::StartupGetNoticeMsgDone>(std::move(text))});
+  if (call.Text(notice, text)) Reply({MakeEvent<events::StartupGetNoticeMsgDone>(std::move(text))});
 }
 
 }  // namespace
 
 void zvGetUsePushNotification() {
-  Call(__func__);
-  const bool enabled = LockedState()->pushEnabled;
-  Reply({MakeEvent<events::PushGetUserPushFinished>(GiveFlag(__func__, enabled))});
+  Reply({MakeEvent<events::PushGetUserPushFinished>(Call(__func__).Flag(Get(&State::pushEnabled)))});
 }
 
 void zvSetUsePushNotification(bool enabled) {
-  Call(__func__, enabled);
-  const bool done = GiveFlag(__func__, true);
+  const bool done = Call(__func__, enabled).Flag(true);
   Reply({MakeEvent<events::PushSetUserPushFinished>(done)}, [done, enabled] {
     if (done) LockedState()->pushEnabled = enabled;
   });
 }
 
 void zvSendPushNotification(const std::string& text, const StringList& accountIds) {
-  Call(__func__, text, accountIds);
-  Reply({MakeEvent<events::PushSendPushNotificationFinished>(GiveFlag(__func__, true))});
+  Reply({MakeEvent<events::PushSendPushNotificationFinished>(Call(__func__, text, accountIds).Flag(true))});
 }
 
 void zvSendLocalNotification(const std::string& text) {
-  Call(__func__, text);
-  const auto code = GiveCode(__func__, kOk, kFailed);
+  const auto code = Call(__func__, text).Code();
   Reply({MakeEvent<events::PushSendLocalNotificationFinished>(code)}, [code] {
     if (code == kOk) LockedState()->notificationPending = true;
   });
 }
 
 void zvCancelLocalNotification(std::int32_t id) {
-  Call(__func__, id);
-  const bool done = GiveFlag(__func__, true);
+  const bool done = Call(__func__, id).Flag(true);
   Reply({MakeEvent<events::CancelLocalPushFinished>(done)}, [done] {
     if (done) LockedState()->notificationPending = false;
   });
 }
 
 // Whether a local notification was sent and none cancelled since.
-bool zvHasNotification() {
-  Call(__func__);
-  const bool pending = LockedState()->notificationPending;
-  return GiveFlag(__func__, pending);
-}
+bool zvHasNotification() { return Call(__func__).Flag(Get(&State::notificationPending)); }
 
 void zvConnectToChannel() {
-  Call(__func__);
-  const auto code = GiveCode(__func__, kOk, kFailed);
+  const auto code = Call(__func__).Code();
   Reply({MakeEvent<events::ConnectToChannelFinished>(code)}, [code] { LockedState()->channelConnected = code == kOk; });
 }
 
 void zvDisConnectFromChannel() {
-  Call(__func__);
-  const auto code = GiveCode(__func__, kOk, kFailed);
+  const auto code = Call(__func__).Code();
   Reply({MakeEvent<events::DisconnectToChannelFinished>(code)}, [code] {
     if (code == kOk) LockedState()->channelConnected = false;
   });
 }
 
 void zvSelectChannelOption(std::int32_t option) {
-  Call(__func__, option);
-  Reply({MakeEvent<events::SelectChannelOptionFinished>(GiveFlag(__func__, true))});
+  Reply({MakeEvent<events::SelectChannelOptionFinished>(Call(__func__, option).Flag(true))});
 }
 
-bool zvHasChannelConnected() {
-  Call(__func__);
-  const bool connected = LockedState()->channelConnected;
-  return GiveFlag(__func__, connected);
-}
+bool zvHasChannelConnected() { return Call(__func__).Flag(Get(&State::channelConnected)); }
 
 bool zvGetChannelID(std::string& out) {
-  Call(__func__);
-  const bool connected = LockedState()->channelConnected;
-  return GiveText(__func__, connected ? std::optional<std::string>("offline_channel_id") : std::nullopt, out);
+  return Call(__func__).Text(Get(&State::channelConnected) ? std::optional("offline_channel_id") : std::nullopt, out);
 }
 
 void zvSetZone(const std::string& zone) { Call(__func__, zone); }
 
-void zvOpenNearby() {
-  Call(__func__);
-  ReplyOpened(__func__);
-}
-
-void zvOpenVespera() {
-  Call(__func__);
-  ReplyOpened(__func__);
-}
-
-void zvShowConversation() {
-  Call(__func__);
-  ReplyOpened(__func__);
-}
-
-void zvShowFAQs() {
-  Call(__func__);
-  ReplyOpened(__func__);
-}
-
-void zvShowWeb(const std::string& url) {
-  Call(__func__, url);
-  ReplyOpened(__func__);
-}
-
-void zvOpenWebView(const std::string& url) {
-  Call(__func__, url);
-  ReplyOpened(__func__);
-}
+void zvOpenNearby() { ReplyOpened(Call(__func__)); }
+void zvOpenVespera() { ReplyOpened(Call(__func__)); }
+void zvShowConversation() { ReplyOpened(Call(__func__)); }
+void zvShowFAQs() { ReplyOpened(Call(__func__)); }
+void zvShowWeb(const std::string& url) { ReplyOpened(Call(__func__, url)); }
+void zvOpenWebView(const std::string& url) { ReplyOpened(Call(__func__, url)); }
 
 void zvShowBoard(const std::string& first, const std::string& second, const std::string& third) {
-  Call(__func__, first, second, third);
-  ReplyOpened(__func__);
+  ReplyOpened(Call(__func__, first, second, third));
 }
 
-void zvCloseWebView() {
-  Call(__func__);
-  ReplyClosed(__func__);
-}
+void zvCloseWebView() { ReplyClosed(Call(__func__)); }
+void zvCloseFlash() { ReplyClosed(Call(__func__)); }
 
-void zvCloseFlash() {
-  Call(__func__);
-  ReplyClosed(__func__);
-}
-
-// The reward is taken and the view closed at once.
+// The player takes the reward and closes the view at once.
 void zvShowRewardView(const StringList& rewards) {
-  Call(__func__, rewards);
-  if (GiveFlag(__func__, true)) {
+  if (Call(__func__, rewards).Flag(true)) {
     Reply({MakeEvent<events::ShowViewOpened>(), MakeEvent<events::ShowViewRewarded>(),
            MakeEvent<events::ShowViewClosed>()});
   } else {
@@ -180,45 +123,30 @@ void zvShowRewardView(const StringList& rewards) {
   }
 }
 
-// The agreement, where it is shown to be agreed to, is accepted.
+// If the agreement is shown, the player accepts it.
 void zvShowCompactView(bool shown) {
-  Call(__func__, shown);
   const auto success = shown ? kProtocolAccepted : kProtocolConfirmed;
-  Reply({MakeEvent<events::ProtocolFinish>(GiveCode(__func__, success, kProtocolRejected))});
+  Reply({MakeEvent<events::ProtocolFinish>(Call(__func__, shown).Code(success, kProtocolRejected))});
 }
 
 void zvSetFloatBtnVisible(bool visible) { Call(__func__, visible); }
 
-void zvGetNotice(bool flag) {
-  Call(__func__, flag);
-  ReplyNotice(__func__, "offline notice");
-}
+void zvGetNotice(bool flag) { ReplyNotice(Call(__func__, flag), "offline notice"); }
+void zvGetAnnouncementInfo() { ReplyNotice(Call(__func__), "offline announcement"); }
 
-void zvGetAnnouncementInfo() {
-  Call(__func__);
-  ReplyNotice(__func__, "offline announcement");
-}
-
-// No picture is drawn: the event names the path, or no path where the answer is false.
 void zvCreateQRCode(const std::string& text, std::int32_t width, std::int32_t height, const std::string& path) {
-  Call(__func__, text, width, height, path);
-  ReplyQRCode(__func__, path);
+  ReplyQRCode(Call(__func__, text, width, height, path), path);
 }
 
 void zvCreateQRCode(const std::string& text, std::int32_t width, std::int32_t height, const std::string& path,
                     const std::string& icon) {
-  Call(__func__, text, width, height, path, icon);
-  ReplyQRCode(__func__, path);
+  ReplyQRCode(Call(__func__, text, width, height, path, icon), path);
 }
 
-void zvScannerQRCode(const std::string& text) {
-  Call(__func__, text);
-  ReplyScan(__func__, text);
-}
+void zvScannerQRCode(const std::string& text) { ReplyScan(Call(__func__, text), text); }
 
 void zvPresentQRCodeScanner(const std::string& text, std::int32_t number) {
-  Call(__func__, text, number);
-  ReplyScan(__func__, text);
+  ReplyScan(Call(__func__, text, number), text);
 }
 
 void zvCCStartService() {
@@ -231,29 +159,12 @@ void zvCCStopService() {
   LockedState()->recording = false;
 }
 
-bool isCCRecording() {
-  Call(__func__);
-  const bool recording = LockedState()->recording;
-  return GiveFlag(__func__, recording);
-}
-
-bool isCCRecordMic() {
-  Call(__func__);
-  const bool recording = LockedState()->recording;
-  return GiveFlag(__func__, recording);
-}
-
-std::int32_t getCCPerformance() {
-  Call(__func__);
-  return GiveNumber(__func__, ConstProp::CC_PERFORMANCE_GOOD);
-}
+bool isCCRecording() { return Call(__func__).Flag(Get(&State::recording)); }
+bool isCCRecordMic() { return Call(__func__).Flag(Get(&State::recording)); }
+std::int32_t getCCPerformance() { return Call(__func__).Number(ConstProp::CC_PERFORMANCE_GOOD); }
 
 // 1 while the recording service runs, else 0.
-std::int32_t getCCWindowState() {
-  Call(__func__);
-  const bool recording = LockedState()->recording;
-  return GiveNumber(__func__, recording ? 1 : 0);
-}
+std::int32_t getCCWindowState() { return Call(__func__).Number(Get(&State::recording) ? 1 : 0); }
 
 void zvPushGameVoice(const char* data, std::size_t size, std::uint32_t sampleRate, std::uint32_t bitsPerSample,
                      std::uint32_t channels) {
@@ -262,8 +173,7 @@ void zvPushGameVoice(const char* data, std::size_t size, std::uint32_t sampleRat
 }
 
 void zvVerifyMobile(std::int32_t number) {
-  Call(__func__, number);
-  const auto code = GiveCode(__func__, kOk, kFailed);
+  const auto code = Call(__func__, number).Code();
   Reply({code == kOk ? MakeEvent<events::VerifySuccess>(code, std::to_string(number))
                      : MakeEvent<events::VerifyFailure>(code, std::to_string(number))});
 }

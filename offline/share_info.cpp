@@ -16,13 +16,12 @@ class ShareRequest final : public ShareInfo, public Record {
 #define RECORD_FIELDS "platform/share_info.def"
 #include "offline/record_fields.inc"
 
-  bool toString(std::string& out) override { return GiveTextForm("ShareInfo.toString", *this, out); }
+  bool toString(std::string& out) override { return TextForm("ShareInfo.toString", *this, out); }
 };
 
 std::shared_ptr<ShareInfo> MakeShare(std::string madeWith) {
   const auto share = Produce<ShareRequest>("ShareInfo.New", std::move(madeWith));
-  const Fields fields = LockedState()->newShare;
-  if (share != nullptr) Fill(*share, fields);
+  if (share != nullptr) Fill(*share, Get(&State::newShare));
   return share;
 }
 

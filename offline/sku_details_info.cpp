@@ -15,7 +15,7 @@ class Sku final : public SkuDetailsInfo, public Record {
 #define RECORD_FIELDS "platform/sku_details_info.def"
 #include "offline/record_fields.inc"
 
-  bool toString(std::string& out) override { return GiveTextForm("SkuDetailsInfo.toString", *this, out); }
+  bool toString(std::string& out) override { return TextForm("SkuDetailsInfo.toString", *this, out); }
 };
 
 }  // namespace

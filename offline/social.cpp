@@ -20,7 +20,7 @@ using Accounts = std::vector<std::shared_ptr<AccountInfo>>;
 
 enum class Relation { kSelf, kFriend, kInvitee, kInviter };
 
-// The people that the runtime knows.
+// The accounts that the runtime knows.
 struct Person {
   const char* accountId;
   const char* nickname;
@@ -49,18 +49,18 @@ std::shared_ptr<AccountInfo> NewAccount(const std::string& accountId, const std:
 }
 
 std::shared_ptr<AccountInfo> AccountOf(const Person& person) {
-  const Quiet quiet;
+  const ControlPause pause;
   auto account = NewAccount(person.accountId, person.nickname);
   account->set_relationType(person.relationType);
   account->set_inGame(person.inGame);
   return account;
 }
 
-// Nobody where the operation's set answer is false.
+// Returns no accounts if the operation's answer is false.
 template <class Chosen>
-Accounts AccountsOf(const char* operation, Chosen chosen) {
+Accounts AccountsOf(const Operation& call, Chosen chosen) {
   Accounts accounts;
-  if (!GiveFlag(operation, true)) return accounts;
+  if (!call.Flag(true)) return accounts;
   for (const Person& person : kPeople) {
     if (chosen(person)) accounts.push_back(AccountOf(person));
   }
@@ -71,9 +71,9 @@ auto HasRelation(Relation relation) {
   return [relation](const Person& person) { return person.relation == relation; };
 }
 
-// The best first: as many as the query asks for.
+// Returns as many accounts as the query asks for, the best first.
 Accounts Ranking(QueryRankInfo& query) {
-  const Quiet quiet;
+  const ControlPause pause;
   std::int32_t count = query.get_count();
   count = count <= 0 ? kDefaultRanks : std::min(count, kMaxRanks);
   Accounts accounts;
@@ -88,7 +88,7 @@ Accounts Ranking(QueryRankInfo& query) {
 }
 
 std::string MessageOf(ShareInfo& share) {
-  const Quiet quiet;
+  const ControlPause pause;
   std::string message;
   share.get_text(message);
   if (message.empty()) share.get_title(message);
@@ -98,33 +98,29 @@ std::string MessageOf(ShareInfo& share) {
 }  // namespace
 
 void zvQueryFriendList() {
-  Call(__func__);
-  Reply({MakeEvent<events::QueryFriendListFinished>(AccountsOf(__func__, HasRelation(Relation::kFriend)))});
+  Reply({MakeEvent<events::QueryFriendListFinished>(AccountsOf(Call(__func__), HasRelation(Relation::kFriend)))});
 }
 
 void zvQueryAvailablesInvitees() {
-  Call(__func__);
-  Reply({MakeEvent<events::QueryAvailablesInviteesFinished>(AccountsOf(__func__, HasRelation(Relation::kInvitee)))});
+  Reply({MakeEvent<events::QueryAvailablesInviteesFinished>(
+      AccountsOf(Call(__func__), HasRelation(Relation::kInvitee)))});
 }
 
 void zvQueryMyAccount() {
-  Call(__func__);
-  Reply({MakeEvent<events::QueryMyAccountFinished>(GiveFlag(__func__, true) ? AccountOf(kPeople[0]) : nullptr)});
+  Reply({MakeEvent<events::QueryMyAccountFinished>(Call(__func__).Flag(true) ? AccountOf(kPeople[0]) : nullptr)});
 }
 
 void zvQueryFriendListInGame() {
-  Call(__func__);
   const auto inGame = [](const Person& person) { return person.relation == Relation::kFriend && person.inGame; };
-  Reply({MakeEvent<events::QueryFriendListInGameFinished>(AccountsOf(__func__, inGame))});
+  Reply({MakeEvent<events::QueryFriendListInGameFinished>(AccountsOf(Call(__func__), inGame))});
 }
 
 void zvQueryInviterList() {
-  Call(__func__);
-  const std::set<std::string> deleted = LockedState()->deletedInviters;
-  const auto remains = [&](const Person& person) {
+  const Operation call = Call(__func__);
+  const auto remains = [deleted = Get(&State::deletedInviters)](const Person& person) {
     return person.relation == Relation::kInviter && !deleted.contains(person.accountId);
   };
-  Reply({MakeEvent<events::QueryInviterListFinished>(AccountsOf(__func__, remains))});
+  Reply({MakeEvent<events::QueryInviterListFinished>(AccountsOf(call, remains))});
 }
 
 void zvDeleteInviters(const StringList& accountIds) {
@@ -132,69 +128,53 @@ void zvDeleteInviters(const StringList& accountIds) {
   LockedState()->deletedInviters.insert(accountIds.begin(), accountIds.end());
 }
 
-void zvIsDarenUpdated() {
-  Call(__func__);
-  Reply({MakeEvent<events::QueryIsDarenUpdated>(GiveFlag(__func__, true))});
-}
+void zvIsDarenUpdated() { Reply({MakeEvent<events::QueryIsDarenUpdated>(Call(__func__).Flag(true))}); }
 
 void zvApplyFriend(const std::string& accountId) {
-  Call(__func__, accountId);
-  Reply({MakeEvent<events::QueryApplyFriendFinished>(GiveFlag(__func__, true))});
+  Reply({MakeEvent<events::QueryApplyFriendFinished>(Call(__func__, accountId).Flag(true))});
 }
 
-// The event names both texts back; nobody where the answer is false.
+// The event repeats both strings. If the answer is false, its list is empty.
 void zvInviteFriendList(const std::string& first, const std::string& second) {
-  Call(__func__, first, second);
-  StringList invited;
-  if (GiveFlag(__func__, true)) invited = {first, second};
-  Reply({MakeEvent<events::QueryInviteFriendListFinished>(std::move(invited))});
+  const bool done = Call(__func__, first, second).Flag(true);
+  Reply({MakeEvent<events::QueryInviteFriendListFinished>(done ? StringList{first, second} : StringList())});
 }
 
 void zvUpdateAchievement(const std::string& name, std::int32_t progress) {
-  Call(__func__, name, progress);
-  Reply({MakeEvent<events::QueryRankUpdateAchievement>(GiveFlag(__func__, true))});
+  Reply({MakeEvent<events::QueryRankUpdateAchievement>(Call(__func__, name, progress).Flag(true))});
 }
 
 void zvUpdateRank(const std::string& name, double score) {
-  Call(__func__, name, score);
-  Reply({MakeEvent<events::QueryRankUpdateFinished>(GiveFlag(__func__, true))});
+  Reply({MakeEvent<events::QueryRankUpdateFinished>(Call(__func__, name, score).Flag(true))});
 }
 
 void zvQueryRank(const std::shared_ptr<QueryRankInfo>& query) {
-  Call(__func__, query);
+  const bool done = Call(__func__, query).Flag(true);
   if (query == nullptr) return;
-  Reply({MakeEvent<events::QueryRankFinished>(GiveFlag(__func__, true) ? Ranking(*query) : Accounts())});
+  Reply({MakeEvent<events::QueryRankFinished>(done ? Ranking(*query) : Accounts())});
 }
 
-// Every quest shown counts as completed; the event names its number.
+// Every quest that is shown is completed at once; the event has its number.
 void zvDisplayQuests(const std::int32_t* quests, std::size_t count) {
   const std::span shown(quests, quests == nullptr ? 0 : count);
-  Call(__func__, shown, count);
+  const bool done = Call(__func__, shown, count).Flag(true);
   std::vector<std::shared_ptr<Event>> completed;
   for (const std::int32_t quest : shown) completed.push_back(MakeEvent<events::QuestCompleted>(std::to_string(quest)));
-  if (!completed.empty() && GiveFlag(__func__, true)) Reply(std::move(completed));
+  if (!completed.empty() && done) Reply(std::move(completed));
 }
 
 void zvShare(const std::shared_ptr<ShareInfo>& share) {
-  Call(__func__, share);
+  const bool shared = Call(__func__, share).Flag(true);
   if (share == nullptr) return;
-  const bool shared = GiveFlag(__func__, true);
   Reply({MakeEvent<events::ShareFinished>(shared)}, [shared, message = MessageOf(*share)] {
     if (shared) LockedState()->lastShareMessage = message;
   });
 }
 
-bool zvCheckArgs(const std::shared_ptr<ShareInfo>& share) {
-  Call(__func__, share);
-  return GiveFlag(__func__, share != nullptr);
-}
+bool zvCheckArgs(const std::shared_ptr<ShareInfo>& share) { return Call(__func__, share).Flag(share != nullptr); }
 
-// The text, else the title, of the last request that was shared.
-bool getLastShareMessage(std::string& out) {
-  Call(__func__);
-  const auto message = LockedState()->lastShareMessage;
-  return GiveText(__func__, message, out);
-}
+// The text of the last request that was shared, or its title if it has no text.
+bool getLastShareMessage(std::string& out) { return Call(__func__).Text(Get(&State::lastShareMessage), out); }
 
 void zvMoreGame() { Call(__func__); }
 void zvDisplayAchievement() { Call(__func__); }

@@ -1,4 +1,4 @@
-// The state's one place, and the controls that reach across families.
+// The global state, and the controls that affect several families of operations.
 #include "offline/state.h"
 
 #include <utility>
@@ -6,40 +6,37 @@
 #include "offline/calls.h"
 #include "offline/control.h"
 #include "offline/event_queue.h"
-#include "offline/log_lines.h"
 
 namespace tarn::velora::offline {
 namespace {
 
-struct Place {
+struct Global {
   std::mutex mutex;
   State state;
 };
 
-// Never destroyed: the runtime's thread may still be at work when the process ends.
-Place& ThePlace() {
-  static Place& place = *new Place;
-  return place;
+// Never destroyed: the runtime's thread may still be running when the process ends.
+Global& TheGlobal() {
+  static Global& global = *new Global;
+  return global;
 }
 
 }  // namespace
 
-LockedState::LockedState() : lock_(ThePlace().mutex) {}
-State* LockedState::operator->() { return &ThePlace().state; }
+LockedState::LockedState() : lock_(TheGlobal().mutex) {}
+State& LockedState::operator*() { return TheGlobal().state; }
 
 void SetCheckedOrders(std::vector<std::shared_ptr<OrderInfo>> orders) { LockedState()->checkedOrders.swap(orders); }
 
-std::vector<download::SyncDownloadHandler*> Handlers() { return LockedState()->downloadHandlers; }
+std::vector<download::SyncDownloadHandler*> Handlers() { return Get(&State::downloadHandlers); }
 
 void Reset() {
   ForgetEvents();
-  State forgotten;
-  {
-    LockedState state;
-    std::swap(*state.operator->(), forgotten);
-  }
-  ForgetCalls();
-  ForgetLogLines();
+  State forgotten;  // destroyed without the lock, as are the records in it
+  std::swap(*LockedState(), forgotten);
+  ForgetAnswers();
+  TakeCalls();
+  TakeLog();
 }
 
 }  // namespace tarn::velora::offline

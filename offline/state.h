@@ -1,4 +1,4 @@
-// The little state that scripts can observe, under one lock.
+// The state that scripts can observe, guarded by one lock.
 #pragma once
 
 #include <cstdint>
@@ -27,7 +27,7 @@ struct State {
   StringMap textProperties;
   IntMap numberProperties;
   std::optional<std::string> commandLine;
-  std::string answeredCommandLine;  // what a set answer gave; kept for the pointer handed out
+  std::string answeredCommandLine;  // a set answer, kept for the pointer that was returned
 
   std::unordered_map<std::string, ProductInfo> products;
   IntMap productTypes;
@@ -48,14 +48,30 @@ struct State {
   bool downloadFinish2 = true;
 };
 
-// The state, locked for as long as this lives: `LockedState()->loggedIn`. Nothing may be called out to meanwhile.
+// The state, locked while this lives: `LockedState()->loggedIn`. Nothing may be called out to while it lives.
 class LockedState {
  public:
   LockedState();
-  State* operator->();
+  State& operator*();
+  State* operator->() { return &**this; }
 
  private:
   std::lock_guard<std::mutex> lock_;
 };
+
+// Returns a copy of a member: `Get(&State::loggedIn)`.
+template <class Value>
+Value Get(Value State::*member) {
+  LockedState state;
+  return (*state).*member;
+}
+
+// Returns a copy of the value under `key` in a map of the state.
+template <class Map>
+std::optional<typename Map::mapped_type> Find(Map State::*map, const std::string& key) {
+  LockedState state;
+  const auto found = ((*state).*map).find(key);
+  return found == ((*state).*map).end() ? std::nullopt : std::optional(found->second);
+}
 
 }  // namespace tarn::velora::offline
