@@ -1,4 +1,4 @@
-// Counts what is taken from the heap: by operator new, anywhere in the program, and by Lua's allocator.
+// Counts heap blocks, those of operator new anywhere in the program and those of Lua's allocator.
 #pragma once
 
 #include <cstddef>
@@ -6,8 +6,15 @@
 
 namespace bench {
 
-// Blocks taken and blocks grown so far.
+// Blocks allocated and blocks grown so far.
 std::int64_t Allocations();
+
+// What is allocated now: bytes as malloc counts them, headers and rounding included, and blocks.
+struct Held {
+  double bytes;
+  double blocks;
+};
+Held HeldNow();
 
 // The allocator of the measured states.
 void* CountingLuaAllocator(void*, void* block, std::size_t oldSize, std::size_t newSize);

@@ -13,11 +13,12 @@
 #include "bench/null_sdk.h"
 #include "module/lua_velora.h"
 #include "offline/control.h"
+#include "platform/order_info.h"
 
 namespace bench {
 
 struct EventKind {
-  const char* callback;  // the setter of the callback; null where nobody listens
+  const char* callback;  // the event's name in the callback accessors; null if nobody listens
   std::shared_ptr<tarn::velora::Event> (*make)();
 };
 
@@ -43,7 +44,7 @@ void Check(lua_State* L, int status) {
   std::abort();
 }
 
-// A state with module and lower bound; both stay there whichever runs, so that the collector has the same to do.
+// A state with module and lower bound. Both are in it whichever runs, so that the collector's work is the same.
 State MeasuredState() {
   State state;
   InitLuaVelora(state.L);
@@ -59,9 +60,9 @@ class Calls : public Workload {
     const std::string chunk = std::string("local api, list, map, map100 = ...\n") + measured.script;
     Check(L, luaL_loadbuffer(L, chunk.data(), chunk.size(), measured.name));
     lua_getglobal(L, side == Side::kModule ? "velora" : "bare");
-    PushEntries(L, 100, false);
-    PushEntries(L, 4, true);
-    PushEntries(L, 100, true);
+    PushStrings(L, 100, false);
+    PushStrings(L, 4, true);
+    PushStrings(L, 100, true);
     Check(L, lua_pcall(L, 4, 1, 0));
   }
 
@@ -75,8 +76,8 @@ class Calls : public Workload {
   }
 
  private:
-  // A table of texts, as a list or under text keys.
-  static void PushEntries(lua_State* L, int count, bool keyed) {
+  // A table of strings, as a list or under string keys.
+  static void PushStrings(lua_State* L, int count, bool keyed) {
     lua_newtable(L);
     for (int k = 1; k <= count; ++k) {
       lua_pushfstring(L, "key %d", k);
@@ -94,7 +95,7 @@ class Calls : public Workload {
   std::int64_t operations_;
 };
 
-// Frames with so many events each. The events live on: destroying them is the SDK's work and no part of the figures.
+// Frames with so many events each. The events live on, since destroying them is the SDK's work.
 class Frames : public Workload {
  public:
   Frames(const Case& measured, Side side)
@@ -124,11 +125,58 @@ class Frames : public Workload {
   void (*update_)(lua_State*);
 };
 
-// The module's start in fresh states.
+// What a table holds under a string key.
+struct Entry {
+  std::string key;
+  int type;
+  lua_CFunction function = nullptr;
+  lua_Integer integer = 0;
+  std::string string = {};
+  std::vector<Entry> table = {};
+};
+
+// Reads the entries of the table on top of the stack.
+std::vector<Entry> ReadEntries(lua_State* L) {
+  std::vector<Entry> entries;
+  for (lua_pushnil(L); lua_next(L, -2) != 0; lua_pop(L, 1)) {
+    Entry& entry = entries.emplace_back(Entry{lua_tostring(L, -2), lua_type(L, -1)});
+    if (entry.type == LUA_TTABLE)
+      entry.table = ReadEntries(L);
+    else if (lua_isinteger(L, -1))
+      entry.integer = lua_tointeger(L, -1);
+    else if (entry.type == LUA_TSTRING)
+      entry.string = lua_tostring(L, -1);
+    else if ((entry.function = lua_tocfunction(L, -1)) == nullptr)
+      std::abort();
+  }
+  return entries;
+}
+
+void PushEntries(lua_State* L, const std::vector<Entry>& entries) {
+  lua_createtable(L, 0, static_cast<int>(entries.size()));
+  for (const Entry& entry : entries) {
+    lua_pushlstring(L, entry.key.data(), entry.key.size());
+    if (entry.type == LUA_TTABLE)
+      PushEntries(L, entry.table);
+    else if (entry.type == LUA_TNUMBER)
+      lua_pushinteger(L, entry.integer);
+    else if (entry.type == LUA_TSTRING)
+      lua_pushlstring(L, entry.string.data(), entry.string.size());
+    else
+      lua_pushcfunction(L, entry.function);
+    lua_rawset(L, -3);
+  }
+}
+
+// The module's start in fresh states. The lower bound stores what the module's tables hold, in tables of that size.
 class Starts : public Workload {
  public:
-  Starts(const Case& measured, Side side)
-      : operations_(measured.operations), init_(side == Side::kModule ? InitLuaVelora : InitBare) {}
+  Starts(const Case& measured, Side side) : operations_(measured.operations), side_(side) {
+    const State state;
+    InitLuaVelora(state.L);
+    lua_getglobal(state.L, "velora");
+    entries_ = ReadEntries(state.L);
+  }
 
   void Prepare() override {
     states_.clear();
@@ -136,12 +184,20 @@ class Starts : public Workload {
   }
 
   void Run() override {
-    for (State& state : states_) init_(state.L);
+    for (State& state : states_) {
+      if (side_ == Side::kModule) {
+        InitLuaVelora(state.L);
+      } else {
+        PushEntries(state.L, entries_);
+        lua_setglobal(state.L, "velora");
+      }
+    }
   }
 
  private:
   std::int64_t operations_;
-  void (*init_)(lua_State*);
+  Side side_;
+  std::vector<Entry> entries_;
   std::vector<State> states_;
 };
 
@@ -150,7 +206,6 @@ std::unique_ptr<Workload> Make(const Case& measured, Side side) {
   return std::make_unique<Kind>(measured, side);
 }
 
-// An event of a type, filled by `fill`.
 template <class Layout, std::int32_t type>
 std::shared_ptr<Event> MakeEvent() {
   return std::make_shared<Layout>(type);
@@ -195,6 +250,18 @@ constexpr std::int64_t kSome = 2'000;
 
 constexpr auto kCalls = Make<Calls>;
 constexpr auto kFrames = Make<Frames>;
+
+// What `make(k)`, called for k from 1 to kRecords, leaves on the heap, per call.
+constexpr int kRecords = 10'000;
+template <class Make>
+Held HeldPerRecord(lua_State* L, Make make) {
+  lua_gc(L, LUA_GCCOLLECT, 0);
+  const Held before = HeldNow();
+  for (int k = 1; k <= kRecords; ++k) make(k);
+  lua_gc(L, LUA_GCCOLLECT, 0);
+  const Held after = HeldNow();
+  return {(after.bytes - before.bytes) / kRecords, (after.blocks - before.blocks) / kRecords};
+}
 
 }  // namespace
 
@@ -254,6 +321,23 @@ const std::vector<Case>& Cases() {
       {"start", "InitLuaVelora", 20, Make<Starts>},
   };
   return cases;
+}
+
+Held HeldRecord(Side side) {
+  const State state = MeasuredState();
+  lua_State* L = state.L;
+  Check(L, luaL_dostring(L, side == Side::kModule ? "return velora.OrderInfo.new" : "return bare.OrderInfo.new"));
+  lua_createtable(L, kRecords, 0);
+  const Held all = HeldPerRecord(L, [L](int k) {
+    lua_pushvalue(L, -2);
+    lua_pushliteral(L, "gold");
+    Check(L, lua_pcall(L, 1, 1, 0));
+    lua_rawseti(L, -2, k);
+  });
+  std::vector<std::shared_ptr<OrderInfo>> records;
+  records.reserve(kRecords);
+  const Held sdk = HeldPerRecord(L, [&records](int) { records.push_back(OrderInfo::New("gold")); });
+  return {all.bytes - sdk.bytes, all.blocks - sdk.blocks};
 }
 
 }  // namespace bench

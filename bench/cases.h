@@ -5,15 +5,17 @@
 #include <memory>
 #include <vector>
 
+#include "bench/allocations.h"
+
 namespace bench {
 
 enum class Side { kModule, kBare };
 
-// One side of a case, in a Lua state of its own that holds module and lower bound both.
+// One side of a case, in a Lua state of its own with both module and lower bound.
 class Workload {
  public:
   virtual ~Workload() = default;
-  // Makes ready what one run consumes. Not measured.
+  // Prepares what one run consumes. Not measured.
   virtual void Prepare() = 0;
   virtual void Run() = 0;
 };
@@ -23,7 +25,7 @@ struct Case {
   const char* name;
   std::int64_t operations;  // in one run
   std::unique_ptr<Workload> (*make)(const Case&, Side);
-  const char* script = "";  // of a call case: gives a function that does n operations with the table `api`
+  const char* script = "";  // of a call case: returns a function that does n operations with the table `api`
   struct Frame {            // of an event case
     const struct EventKind* kind = nullptr;
     std::int64_t events = 0;
@@ -31,5 +33,8 @@ struct Case {
 };
 
 const std::vector<Case>& Cases();
+
+// What an OrderInfo userdata that a script holds takes from the heap, without the SDK's record.
+Held HeldRecord(Side side);
 
 }  // namespace bench

@@ -1,8 +1,11 @@
-// Hand-written bindings in plain style: test, read, call, push.
+// Hand-written bindings. Tables are made with their size, a record takes one heap block beside its userdata, and a
+// metatable is an upvalue or is fetched once per list. lua_pushstring or lua_pushlstring is called, whichever measured
+// faster: the former finds a string that was pushed from the same address before without hashing it.
 #include "bench/lower_bound.h"
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/account_info.h"
@@ -13,60 +16,45 @@
 #include "platform/order_info.h"
 #include "platform/pad_record.h"
 #include "platform/share_info.h"
-#include "platform/sku_details_info.h"
 
 namespace bench {
 namespace {
 
 using namespace tarn::velora;
 
-// What a record userdata carries: a holder with an owning pointer to a reference of its own.
+// The heap block that a record userdata points to.
 template <class Record>
-struct BareHolder {
-  std::shared_ptr<Record>* record;
+struct Holder {
+  std::shared_ptr<Record> record;
 };
 
+// The registry key of a class's metatable.
 template <class Record>
-constexpr const char* kMetatable = nullptr;
-template <>
-constexpr const char* kMetatable<OrderInfo> = "BareOrderInfo";
-template <>
-constexpr const char* kMetatable<ShareInfo> = "BareShareInfo";
-template <>
-constexpr const char* kMetatable<PadRecord> = "BarePadEvent";
-template <>
-constexpr const char* kMetatable<AccountInfo> = "BareAccountInfo";
-template <>
-constexpr const char* kMetatable<SkuDetailsInfo> = "BareSkuDetailsInfo";
+const char kMetatable = 0;
 
-template <class Record>
-void PushHolder(lua_State* L, BareHolder<Record>* holder) {
-  *static_cast<BareHolder<Record>**>(lua_newuserdata(L, sizeof(void*))) = holder;
-  luaL_setmetatable(L, kMetatable<Record>);
-}
+// The functions of a class have its metatable as their upvalue.
+constexpr int kOwnMetatable = lua_upvalueindex(1);
 
+// Pushes a userdata with the metatable at `metatable`, an absolute index.
 template <class Record>
-BareHolder<Record>* NewHolder(const std::shared_ptr<Record>& reference) {
-  return new BareHolder<Record>{new std::shared_ptr<Record>(reference)};
-}
-
-template <class Record>
-void PushRecord(lua_State* L, const std::shared_ptr<Record>& reference) {
-  PushHolder(L, NewHolder(reference));
+void PushRecord(lua_State* L, std::shared_ptr<Record> reference, int metatable) {
+  auto* holder = new Holder<Record>{std::move(reference)};
+  *static_cast<Holder<Record>**>(lua_newuserdata(L, sizeof(void*))) = holder;
+  lua_pushvalue(L, metatable);
+  lua_setmetatable(L, -2);
 }
 
 template <class Record>
 int Collect(lua_State* L) {
-  auto* holder = *static_cast<BareHolder<Record>**>(lua_touserdata(L, 1));
-  delete holder->record;
-  delete holder;
+  delete *static_cast<Holder<Record>**>(lua_touserdata(L, 1));
   return 0;
 }
 
+// The holder of argument 1, null if it is not of the function's class. Leaves a value on the stack.
 template <class Record>
-std::shared_ptr<Record>* Self(lua_State* L) {
-  auto** holder = static_cast<BareHolder<Record>**>(luaL_testudata(L, 1, kMetatable<Record>));
-  return holder == nullptr ? nullptr : (*holder)->record;
+Holder<Record>* Self(lua_State* L) {
+  if (lua_getmetatable(L, 1) == 0 || lua_topointer(L, -1) != lua_topointer(L, kOwnMetatable)) return nullptr;
+  return *static_cast<Holder<Record>**>(lua_touserdata(L, 1));
 }
 
 int FlushCustomEvents(lua_State*) {
@@ -80,30 +68,45 @@ int CancelLocalNotification(lua_State* L) {
   return 0;
 }
 
+// Null if the argument is neither a string nor a number.
+struct StringArgument {
+  StringArgument(lua_State* L, int index) : data(lua_tolstring(L, index, &size)) {}
+  std::string Make() const { return {data, size}; }
+
+  std::size_t size;
+  const char* data;
+};
+
 int SetPropStr(lua_State* L) {
-  if (!lua_isstring(L, 1) || !lua_isstring(L, 2)) return 0;
-  setPropStr(lua_tostring(L, 1), lua_tostring(L, 2));
+  const StringArgument name(L, 1);
+  const StringArgument value(L, 2);
+  if (name.data == nullptr || value.data == nullptr) return 0;
+  setPropStr(name.Make(), value.Make());
   return 0;
 }
 
 int SetPropInt(lua_State* L) {
-  if (!lua_isstring(L, 1) || !lua_isinteger(L, 2)) return 0;
-  setPropInt(lua_tostring(L, 1), static_cast<int>(lua_tointeger(L, 2)));
+  const StringArgument name(L, 1);
+  if (name.data == nullptr || !lua_isinteger(L, 2)) return 0;
+  setPropInt(name.Make(), static_cast<int>(lua_tointeger(L, 2)));
   return 0;
 }
 
-template <bool (*operation)(std::string&)>
-int GetText(lua_State* L) {
-  std::string out;
-  if (!operation(out)) return 0;
-  lua_pushstring(L, out.c_str());
+int PushResult(lua_State* L, const std::string& result) {
+  lua_pushstring(L, result.c_str());
   return 1;
+}
+
+template <bool (*operation)(std::string&)>
+int GetString(lua_State* L) {
+  std::string out;
+  return operation(out) ? PushResult(L, out) : 0;
 }
 
 int CheckOrder(lua_State* L) {
   auto* order = Self<OrderInfo>(L);
   if (order == nullptr) return 0;
-  zvCheckOrder(*order);
+  zvCheckOrder(order->record);
   return 0;
 }
 
@@ -111,27 +114,27 @@ int DeleteInviters(lua_State* L) {
   if (!lua_istable(L, 1)) return luaL_error(L, "ptrmust be table");
   lua_len(L, 1);
   const auto length = static_cast<int>(lua_tointeger(L, -1));
-  lua_pop(L, 1);
   StringList list;
   list.reserve(static_cast<std::size_t>(length));
   for (int k = 1; k <= length; ++k) {
     lua_rawgeti(L, 1, k);
-    list.emplace_back(lua_tostring(L, -1));
-    lua_pop(L, 1);
+    const StringArgument element(L, -1);
+    list.emplace_back(element.data, element.size);
+    if (k % 16 == 0) lua_settop(L, 1);  // Lua promises 20 slots
   }
   zvDeleteInviters(list);
   return 0;
 }
 
 int NewOrder(lua_State* L) {
-  const char* productId = lua_tostring(L, 1);
-  if (productId == nullptr) return luaL_error(L, "velora.OrderInfo must be init with productId of type str!");
-  PushRecord(L, OrderInfo::New(productId));
+  const StringArgument productId(L, 1);
+  if (productId.data == nullptr) return luaL_error(L, "velora.OrderInfo must be init with productId of type str!");
+  PushRecord(L, OrderInfo::New(productId.Make()), kOwnMetatable);
   return 1;
 }
 
 int NewShare(lua_State* L) {
-  PushRecord(L, ShareInfo::New());
+  PushRecord(L, ShareInfo::New(), kOwnMetatable);
   return 1;
 }
 
@@ -139,30 +142,28 @@ int GetAid(lua_State* L) {
   auto* order = Self<OrderInfo>(L);
   if (order == nullptr) return 0;
   std::string out;
-  if (!(*order)->get_aid(out)) return 0;
-  lua_pushstring(L, out.c_str());
-  return 1;
+  return order->record->get_aid(out) ? PushResult(L, out) : 0;
 }
 
 int SetAid(lua_State* L) {
   auto* order = Self<OrderInfo>(L);
   if (order == nullptr) return 0;
-  const char* text = lua_tostring(L, 2);
-  (*order)->set_aid(text == nullptr ? "" : text);
+  const StringArgument value(L, 2);
+  order->record->set_aid(value.data == nullptr ? std::string() : value.Make());
   return 0;
 }
 
 int GetCount(lua_State* L) {
   auto* order = Self<OrderInfo>(L);
   if (order == nullptr) return 0;
-  lua_pushinteger(L, (*order)->get_count());
+  lua_pushinteger(L, order->record->get_count());
   return 1;
 }
 
 int SetCount(lua_State* L) {
   auto* order = Self<OrderInfo>(L);
   if (order == nullptr) return 0;
-  (*order)->set_count(static_cast<int>(lua_tointeger(L, 2)));
+  order->record->set_count(static_cast<int>(lua_tointeger(L, 2)));
   return 0;
 }
 
@@ -170,12 +171,11 @@ int GetShareData(lua_State* L) {
   auto* share = Self<ShareInfo>(L);
   if (share == nullptr) return 0;
   StringMap map;
-  if (!(*share)->get_shareData(map) || map.empty()) return 0;
-  lua_createtable(L, 0, 0);
+  if (!share->record->get_shareData(map) || map.empty()) return 0;
+  lua_createtable(L, 0, static_cast<int>(map.size()));
   for (const auto& [key, value] : map) {
-    lua_pushstring(L, key.c_str());
     lua_pushstring(L, value.c_str());
-    lua_rawset(L, -3);
+    lua_setfield(L, -2, key.c_str());
   }
   return 1;
 }
@@ -187,25 +187,13 @@ int SetShareData(lua_State* L) {
   StringMap map;
   lua_pushnil(L);
   while (lua_next(L, 2) != 0) {
-    map.insert_or_assign(lua_tostring(L, -2), lua_tostring(L, -1));
+    const StringArgument key(L, -2);
+    const StringArgument value(L, -1);
+    map.try_emplace(key.Make(), value.data, value.size);
     lua_pop(L, 1);
   }
-  (*share)->set_shareData(map);
+  share->record->set_shareData(map);
   return 0;
-}
-
-// Makes a metatable and, for a class that scripts can make, its class table in the table on top of the stack.
-template <class Record>
-void AddClass(lua_State* L, const char* name, const luaL_Reg* rows) {
-  lua_newtable(L);
-  luaL_setfuncs(L, rows, 0);
-  luaL_newmetatable(L, kMetatable<Record>);
-  lua_pushcfunction(L, Collect<Record>);
-  lua_setfield(L, -2, "__gc");
-  lua_pushvalue(L, -2);
-  lua_setfield(L, -2, "__index");
-  lua_pop(L, 1);
-  lua_setfield(L, -2, name);
 }
 
 const luaL_Reg kFunctions[] = {
@@ -213,10 +201,9 @@ const luaL_Reg kFunctions[] = {
     {"zvCancelLocalNotification", CancelLocalNotification},
     {"setPropStr", SetPropStr},
     {"setPropInt", SetPropInt},
-    {"getChannel", GetText<getChannel>},
-    {"getAppChannel", GetText<getAppChannel>},
-    {"getUdid", GetText<getUdid>},
-    {"zvCheckOrder", CheckOrder},
+    {"getChannel", GetString<getChannel>},
+    {"getAppChannel", GetString<getAppChannel>},
+    {"getUdid", GetString<getUdid>},
     {"zvDeleteInviters", DeleteInviters},
     {nullptr, nullptr},
 };
@@ -233,134 +220,90 @@ const luaL_Reg kShareFunctions[] = {
     {nullptr, nullptr},
 };
 
-const luaL_Reg kNoFunctions[] = {{nullptr, nullptr}};
-
-// What each layout pushes. The callback is fetched here, since a record's holder is made before it.
-constexpr int kTable = 1;
-
-int Give(lua_State* L, const PlainEvent& event) {
-  lua_rawgeti(L, kTable, event.type);
-  return 0;
+// Pushes a new metatable, which is kept in the registry.
+template <class Record>
+void PushMetatable(lua_State* L) {
+  lua_newtable(L);
+  lua_pushcfunction(L, Collect<Record>);
+  lua_setfield(L, -2, "__gc");
+  lua_pushvalue(L, -1);
+  lua_rawsetp(L, LUA_REGISTRYINDEX, &kMetatable<Record>);
 }
 
-int Give(lua_State* L, const CodeEvent& event) {
-  lua_rawgeti(L, kTable, event.type);
+// Stores a class in the table below the metatable on top of the stack, and pops the metatable.
+void StoreClass(lua_State* L, const char* name, const luaL_Reg* functions) {
+  lua_newtable(L);
+  lua_pushvalue(L, -2);
+  luaL_setfuncs(L, functions, 1);
+  lua_pushvalue(L, -1);
+  lua_setfield(L, -3, "__index");
+  lua_setfield(L, -3, name);
+  lua_pop(L, 1);
+}
+
+constexpr int kCallbacks = 1;
+constexpr int kCallback = 2;
+
+// Push the arguments of the events that the cases use, and return their number.
+int Push(lua_State* L, const CodeEvent& event) {
   lua_pushinteger(L, event.code);
   return 1;
 }
 
-int Give(lua_State* L, const CodeTextEvent& event) {
-  lua_rawgeti(L, kTable, event.type);
-  lua_pushinteger(L, event.code);
-  lua_pushstring(L, event.text.c_str());
-  return 2;
-}
-
-int Give(lua_State* L, const FlagEvent& event) {
-  lua_rawgeti(L, kTable, event.type);
-  lua_pushboolean(L, event.flag);
-  return 1;
-}
-
-int Give(lua_State* L, const TextEvent& event) {
-  lua_rawgeti(L, kTable, event.type);
+int Push(lua_State* L, const TextEvent& event) {
   lua_pushstring(L, event.text.c_str());
   return 1;
 }
 
-int Give(lua_State* L, const TextPairEvent& event) {
-  lua_rawgeti(L, kTable, event.type);
-  lua_pushstring(L, event.first.c_str());
-  lua_pushstring(L, event.second.c_str());
-  return 2;
-}
-
-int Give(lua_State* L, const TextListEvent& event) {
-  lua_rawgeti(L, kTable, event.type);
-  lua_createtable(L, 0, 0);
-  for (std::size_t k = 0; k < event.texts.size(); ++k) {
-    lua_pushstring(L, event.texts[k].c_str());
-    lua_rawseti(L, -2, static_cast<int>(k) + 1);
+int Push(lua_State* L, const TextListEvent& event) {
+  const auto size = static_cast<int>(event.texts.size());
+  lua_createtable(L, size, 0);
+  for (int k = 0; k < size; ++k) {
+    const std::string& text = event.texts[static_cast<std::size_t>(k)];
+    lua_pushlstring(L, text.data(), text.size());
+    lua_rawseti(L, -2, k + 1);
   }
   return 1;
 }
 
-int Give(lua_State* L, const PadKeyEvent& event) {
-  auto* holder = NewHolder(event.pad);
-  lua_rawgeti(L, kTable, event.type);
+int Push(lua_State* L, const PadKeyEvent& event) {
   lua_pushinteger(L, event.keyCode);
-  PushHolder(L, holder);
+  *static_cast<Holder<PadRecord>**>(lua_newuserdata(L, sizeof(void*))) = new Holder<PadRecord>{event.pad};
+  lua_rawgetp(L, LUA_REGISTRYINDEX, &kMetatable<PadRecord>);
+  lua_setmetatable(L, -2);
   return 2;
 }
 
-int Give(lua_State* L, const PadPressureEvent& event) {
-  auto* holder = NewHolder(event.pad);
-  lua_rawgeti(L, kTable, event.type);
-  lua_pushinteger(L, event.keyCode);
-  lua_pushnumber(L, event.pressure);
-  PushHolder(L, holder);
-  return 3;
-}
-
-int Give(lua_State* L, const PadStickEvent& event) {
-  auto* holder = NewHolder(event.pad);
-  lua_rawgeti(L, kTable, event.type);
-  lua_pushnumber(L, event.x);
-  lua_pushnumber(L, event.y);
-  PushHolder(L, holder);
-  return 3;
-}
-
-template <class Record>
-int GiveRecord(lua_State* L, std::int32_t type, const std::shared_ptr<Record>& reference) {
-  auto* holder = NewHolder(reference);
-  lua_rawgeti(L, kTable, type);
-  PushHolder(L, holder);
-  return 1;
-}
-
-int Give(lua_State* L, const PadStateEvent& event) { return GiveRecord(L, event.type, event.pad); }
-int Give(lua_State* L, const OrderEvent& event) { return GiveRecord(L, event.type, event.order); }
-int Give(lua_State* L, const AccountEvent& event) { return GiveRecord(L, event.type, event.account); }
-
-template <class Record>
-int GiveList(lua_State* L, std::int32_t type, const std::vector<std::shared_ptr<Record>>& records) {
-  lua_rawgeti(L, kTable, type);
-  lua_createtable(L, 0, 0);
-  for (std::size_t k = 0; k < records.size(); ++k) {
-    PushRecord(L, records[k]);
-    lua_rawseti(L, -2, static_cast<int>(k) + 1);
+int Push(lua_State* L, const AccountListEvent& event) {
+  const auto size = static_cast<int>(event.accounts.size());
+  lua_createtable(L, size, 0);
+  lua_rawgetp(L, LUA_REGISTRYINDEX, &kMetatable<AccountInfo>);
+  constexpr int kList = kCallback + 1;
+  for (int k = 0; k < size; ++k) {
+    PushRecord(L, event.accounts[static_cast<std::size_t>(k)], kList + 1);
+    lua_rawseti(L, kList, k + 1);
   }
+  lua_pop(L, 1);
   return 1;
 }
 
-int Give(lua_State* L, const AccountListEvent& event) { return GiveList(L, event.type, event.accounts); }
-int Give(lua_State* L, const SkuListEvent& event) { return GiveList(L, event.type, event.skus); }
-
-void PushBlock(lua_State* L, const ByteBlock* block) {
-  lua_pushlstring(L, reinterpret_cast<const char*>(block->data), block->size);
+template <class Layout>
+int PushAs(lua_State* L, const Event& event) {
+  return Push(L, static_cast<const Layout&>(event));
 }
 
-int Give(lua_State* L, const BytesEvent& event) {
-  lua_rawgeti(L, kTable, event.type);
-  PushBlock(L, event.bytes);
-  return 1;
-}
-
-int Give(lua_State* L, const TextBytesEvent& event) {
-  lua_rawgeti(L, kTable, event.type);
-  lua_pushstring(L, event.text.c_str());
-  PushBlock(L, event.bytes);
-  return 2;
-}
-
-int Deliver(lua_State* L, const Event& event) {
+int PushArguments(lua_State* L, const Event& event) {
   switch (event.type) {
-#define VELORA_EVENT(type, name, Layout) \
-  case type:                             \
-    return Give(L, static_cast<const Layout&>(event));
-#include "platform/events.def"
-#undef VELORA_EVENT
+    case 5:
+      return PushAs<PadKeyEvent>(L, event);
+    case 13:
+      return PushAs<TextEvent>(L, event);
+    case 15:
+      return PushAs<CodeEvent>(L, event);
+    case 41:
+      return PushAs<AccountListEvent>(L, event);
+    case 47:
+      return PushAs<TextListEvent>(L, event);
     default:
       return 0;
   }
@@ -371,10 +314,16 @@ int Deliver(lua_State* L, const Event& event) {
 void OpenBare(lua_State* L) {
   lua_newtable(L);
   luaL_setfuncs(L, kFunctions, 0);
-  AddClass<OrderInfo>(L, "OrderInfo", kOrderFunctions);
-  AddClass<ShareInfo>(L, "ShareInfo", kShareFunctions);
-  AddClass<PadRecord>(L, "PadEvent", kNoFunctions);
-  AddClass<AccountInfo>(L, "AccountInfo", kNoFunctions);
+  PushMetatable<OrderInfo>(L);
+  lua_pushvalue(L, -1);
+  lua_pushcclosure(L, CheckOrder, 1);
+  lua_setfield(L, -3, "zvCheckOrder");
+  StoreClass(L, "OrderInfo", kOrderFunctions);
+  PushMetatable<ShareInfo>(L);
+  StoreClass(L, "ShareInfo", kShareFunctions);
+  PushMetatable<PadRecord>(L);
+  PushMetatable<AccountInfo>(L);
+  lua_pop(L, 2);
   lua_setglobal(L, "bare");
 }
 
@@ -384,10 +333,11 @@ void UpdateBare(lua_State* L) {
   if (batch.empty()) return;
   GetSdkCallbackTable(L, "VELORA");
   for (const auto& event : batch) {
-    const bool wanted = lua_rawgeti(L, kTable, event->type) != LUA_TNIL;
-    lua_pop(L, 1);
-    if (!wanted) continue;
-    const int arguments = Deliver(L, *event);
+    if (lua_rawgeti(L, kCallbacks, event->type) == LUA_TNIL) {
+      lua_pop(L, 1);
+      continue;
+    }
+    const int arguments = PushArguments(L, *event);
     if (lua_pcall(L, arguments, 0, 0) != LUA_OK) {
       tarn::log::Log(LogChannel, 0, "[Velora callback err] %s", lua_tostring(L, -1));
       lua_pop(L, 1);

@@ -1,8 +1,10 @@
 // Measures each case on both sides. Times come from Google Benchmark, whose options this program takes. With the one
-// argument --instructions it runs each side once, to be watched by callgrind: a dump per side says what was executed.
+// argument --instructions it runs each side once under callgrind, which writes a dump per side. With --held-record it
+// prints what a held record takes from the heap.
 #include <benchmark/benchmark.h>
 #include <valgrind/callgrind.h>
 
+#include <cstdio>
 #include <cstring>
 #include <string>
 
@@ -51,6 +53,13 @@ void CountInstructions() {
   }
 }
 
+void PrintHeldRecord() {
+  for (const Side side : {Side::kModule, Side::kBare}) {
+    const Held held = HeldRecord(side);
+    std::printf("%s %.1f bytes, %.2f blocks\n", side == Side::kModule ? "module" : "bare", held.bytes, held.blocks);
+  }
+}
+
 }  // namespace
 }  // namespace bench
 
@@ -58,6 +67,10 @@ int main(int argc, char** argv) {
   using namespace bench;
   if (argc == 2 && std::strcmp(argv[1], "--instructions") == 0) {
     CountInstructions();
+    return 0;
+  }
+  if (argc == 2 && std::strcmp(argv[1], "--held-record") == 0) {
+    PrintHeldRecord();
     return 0;
   }
   benchmark::Initialize(&argc, argv);
