@@ -74,12 +74,13 @@ coverage: ## measure which lines of the module's folders the tests reach
 	gcovr --root . --filter '(binding|records|events|wrappers|constants|download|module)/' --exclude-throw-branches \
 	  --print-summary --html-details $(BUILD)/coverage/index.html $(BUILD)/coverage
 
+# Debian's Python, for which Debian's matplotlib is installed.
 .PHONY: bench
 bench: ## measure the module against hand-written bindings, and chart it in docs/
 	tools/setup bench
 	cmake --preset bench
 	cmake --build --preset bench --target velora_bench
-	python3 bench/report.py $(BUILD)/bench/bin/velora_bench $(BUILD)/bench docs
+	/usr/bin/python3 bench/report.py $(BUILD)/bench/bin/velora_bench $(BUILD)/bench docs
 
 .PHONY: reference
 reference: ## write the pages of docs/reference/ from the annotations in types/
