@@ -71,7 +71,7 @@ int CancelLocalNotification(lua_State* L) {
 // Null if the argument is neither a string nor a number.
 struct StringArgument {
   StringArgument(lua_State* L, int index) : data(lua_tolstring(L, index, &size)) {}
-  std::string Make() const { return {data, size}; }
+  std::string Make() const { return data; }  // up to the first zero byte, as the SDK takes strings
 
   std::size_t size;
   const char* data;

@@ -2,9 +2,9 @@
 #include "bench/null_sdk.h"
 
 #include <cstddef>
-#include <type_traits>
 #include <utility>
 
+#include "platform/field_families.h"
 #include "platform/operations.h"
 #include "platform/order_info.h"
 #include "platform/share_info.h"
@@ -12,65 +12,50 @@
 namespace bench {
 namespace {
 
+using namespace tarn::velora;
+
 std::vector<Batch> queuedFrames;
 std::size_t nextFrame = 0;
 
-namespace families {
-using String = std::string;
-using Int = std::int32_t;
-using Int64 = std::int64_t;
-using Float = float;
-using Double = double;
-using IntAsNumber = std::int32_t;
-using Bool = bool;
-using StringMap = tarn::velora::StringMap;
-using IntMap = tarn::velora::IntMap;
-using StrictList = tarn::velora::StringList;
-using CachedList = tarn::velora::StringList;
-using CachedMap = tarn::velora::StringMap;
-using RecordMap = tarn::velora::StringMap;
-}  // namespace families
-
-template <class Value>
-using Parameter = std::conditional_t<std::is_arithmetic_v<Value>, Value, const Value&>;
-
-// The operations of a field read and write a plain member.
-#define READ_VALUE(name, family) \
-  families::family get_##name() override { return name##_; }
-#define READ_OUT(Result, name, family, ...)           \
-  Result get_##name(families::family& out) override { \
-    out = name##_;                                    \
-    __VA_ARGS__                                       \
+// The accessors of a record read and write plain members.
+class PlainFields {
+ protected:
+  static bool ReadText(const char*, const std::string& field, std::string& out) {
+    out = field;
+    return true;
   }
-#define GETTER_String(name) READ_OUT(bool, name, String, return true;)
-#define GETTER_Int(name) READ_VALUE(name, Int)
-#define GETTER_Int64(name) READ_VALUE(name, Int64)
-#define GETTER_Float(name) READ_VALUE(name, Float)
-#define GETTER_Double(name) READ_VALUE(name, Double)
-#define GETTER_IntAsNumber(name) READ_VALUE(name, IntAsNumber)
-#define GETTER_Bool(name) READ_VALUE(name, Bool)
-#define GETTER_StringMap(name) READ_OUT(void, name, StringMap)
-#define GETTER_IntMap(name) READ_OUT(void, name, IntMap)
-#define GETTER_StrictList(name) READ_OUT(void, name, StrictList)
-#define GETTER_CachedList(name) READ_OUT(void, name, CachedList)
-#define GETTER_CachedMap(name) READ_OUT(void, name, CachedMap)
-#define GETTER_RecordMap(name) READ_OUT(bool, name, RecordMap, return true;)
+  static bool ReadMap(const char*, const StringMap& field, StringMap& out) {
+    out = field;
+    return true;
+  }
+  template <class Value>
+  static const Value& ReadNumber(const char*, const Value& field) {
+    return field;
+  }
+  template <class Container>
+  static const Container& ReadContainer(const char*, const Container& field) {
+    return field;
+  }
+  template <class Value>
+  static void Write(const char*, Value& field, families::Parameter<Value> value) {
+    field = value;
+  }
+};
 
-#define VELORA_FIELD_READ_ONLY(name, family) \
-  families::family name##_{};                \
-  GETTER_##family(name)
-#define VELORA_FIELD(name, family)     \
-  VELORA_FIELD_READ_ONLY(name, family) \
-  void set_##name(Parameter<families::family> value) override { name##_ = value; }
-
-struct Order final : tarn::velora::OrderInfo {
-#include "platform/order_info.def"
+class Order final : public OrderInfo, PlainFields {
+ public:
+#define RECORD_CLASS ""
+#define RECORD_FIELDS "platform/order_info.def"
+#include "offline/record_fields.inc"
   bool produceCartInfo(std::string&) override { return false; }
   bool toString(std::string&) override { return false; }
 };
 
-struct Share final : tarn::velora::ShareInfo {
-#include "platform/share_info.def"
+class Share final : public ShareInfo, PlainFields {
+ public:
+#define RECORD_CLASS ""
+#define RECORD_FIELDS "platform/share_info.def"
+#include "offline/record_fields.inc"
   bool toString(std::string&) override { return false; }
 };
 

@@ -7,12 +7,18 @@
 #include <string_view>
 
 #include "platform/binding_helpers.h"
+#include "platform/record_classes.h"
 
 namespace player {
 namespace {
 
-constexpr const char* kMetatables[] = {"LuaProductInfo",   "LuaOrderInfo",   "LuaSkuDetailsInfo", "LuaShareInfo",
-                                       "LuaQueryRankInfo", "LuaAccountInfo", "LuaPadEvent"};
+constexpr struct {
+  const char* name;
+  const char* metatable;
+} kClasses[] = {
+#define VELORA_CLASS(Record, luaName) {luaName, tarn::velora::ClassNames<tarn::velora::Record>::kMetatable},
+#include "platform/records.def"
+};
 
 // A string in a fixed place. What does not fit is cut off.
 class Line {
@@ -105,8 +111,8 @@ void AddPosition(Line& line, lua_State* L) {
 }  // namespace
 
 const char* ClassName(lua_State* L, int index) {
-  for (const char* metatable : kMetatables)
-    if (CheckMetaTableInUserType(L, index, metatable)) return metatable + std::strlen("Lua");
+  for (const auto& [name, metatable] : kClasses)
+    if (CheckMetaTableInUserType(L, index, metatable)) return name;
   return nullptr;
 }
 
