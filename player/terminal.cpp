@@ -22,7 +22,9 @@ bool hasColour = false;
 void PrepareStreams() {
   _setmode(_fileno(stdout), _O_BINARY);
   _setmode(_fileno(stderr), _O_BINARY);
+  // If both streams are one pipe, their lines keep their order.
   std::setvbuf(stdout, nullptr, _IONBF, 0);
+  std::setvbuf(stderr, nullptr, _IONBF, 0);
 }
 
 // Returns whether the stream is a console, and makes it understand escape codes.
