@@ -164,7 +164,7 @@ struct VELORA_SDK_TYPE TextBytesEvent : Event {
 template <>
 inline constexpr std::tuple kPayload<TextBytesEvent>{&TextBytesEvent::text, &TextBytesEvent::bytes};
 
-#if defined(__GNUC__)
+#if defined(__GNUC__) || defined(__clang__)
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Winvalid-offsetof"
 #endif
@@ -190,7 +190,9 @@ static_assert(offsetof(AccountListEvent, accounts) == 16);
 static_assert(offsetof(SkuListEvent, skus) == 16);
 static_assert(offsetof(BytesEvent, bytes) == 16);
 static_assert(offsetof(TextBytesEvent, text) == 16 && offsetof(TextBytesEvent, bytes) == 48);
-#if defined(__GNUC__)
+static_assert(sizeof(PlainEvent) == 16 && sizeof(CodeEvent) == 24 && sizeof(FlagEvent) == 24 &&
+              sizeof(PadPressureEvent) == 48 && sizeof(PadStickEvent) == 48 && sizeof(TextBytesEvent) == 56);
+#if defined(__GNUC__) || defined(__clang__)
 #pragma GCC diagnostic pop
 #endif
 
