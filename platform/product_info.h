@@ -27,7 +27,11 @@ static_assert(offsetof(ProductInfo, productName) == 32 && offsetof(ProductInfo, 
               offsetof(ProductInfo, channelGoodsTypes) == 72 + sizeof(StringMap) &&
               offsetof(ProductInfo, jellRatios) == 72 + 2 * sizeof(StringMap) &&
               offsetof(ProductInfo, jellyExtra) == 72 + 3 * sizeof(StringMap) &&
-              offsetof(ProductInfo, ffChannel) == 104 + 3 * sizeof(StringMap));
+              offsetof(ProductInfo, ffChannel) == 104 + 3 * sizeof(StringMap) &&
+              sizeof(ProductInfo) == 136 + 3 * sizeof(StringMap));
+#if defined(_MSC_VER)
+static_assert(sizeof(StringMap) == 64 && sizeof(IntMap) == 64);
+#endif
 
 // Fills `out` with a text form of `product` and reports success.
 VELORA_SDK_API bool toString(const ProductInfo& product, std::string& out);

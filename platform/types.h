@@ -12,4 +12,8 @@ using StringList = std::vector<std::string>;
 using StringMap = std::unordered_map<std::string, std::string>;
 using IntMap = std::unordered_map<std::string, std::int32_t>;
 
+#if defined(_MSC_VER)
+static_assert(_ITERATOR_DEBUG_LEVEL == 0, "the SDK's release library needs /MD and _ITERATOR_DEBUG_LEVEL=0");
+#endif
+
 }  // namespace tarn::velora
