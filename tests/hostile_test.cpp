@@ -133,6 +133,7 @@ TEST_F(Hostile, CallbacksThatMisbehave) {
            "local function deep(n) if n == 0 then error('deep') end return deep(n - 1) + 1 end deep(10000)",
            "local function overflow() return overflow() + 1 end overflow()",
            "local function nest() return select(2, string.gsub('x', 'x', nest)) end nest()",
+           "local function nest() return select(2, string.gsub('x', 'x', nest)) end xpcall(nest, nest)",
            "local function nest() local ok, e = pcall(nest) if not ok then error(e, 0) end end nest()",
            "collectgarbage() collectgarbage('stop') collectgarbage('restart')",
            "velora.setOnLoginDone(print) velora.setOnLoginDone(f)",
