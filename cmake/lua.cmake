@@ -41,5 +41,6 @@ list(TRANSFORM VELORA_LUA_HEADERS PREPEND ${source}/src/)
 add_library(lua_cxx SHARED EXCLUDE_FROM_ALL ${sources})
 set_target_properties(lua_cxx PROPERTIES PREFIX "" OUTPUT_NAME ${VELORA_LUA_DLL}-c++ LINKER_LANGUAGE CXX
                                          WINDOWS_EXPORT_ALL_SYMBOLS ON)
-target_compile_options(lua_cxx PRIVATE $<IF:$<BOOL:${MSVC}>,/TP,-xc++>)
+target_compile_options(lua PRIVATE ${VELORA_LUA_OPTIONS})
+target_compile_options(lua_cxx PRIVATE ${VELORA_LUA_OPTIONS} "$<IF:$<BOOL:${MSVC}>,/TP;/EHs,-xc++>")
 target_link_libraries(lua_cxx INTERFACE lua_headers)
