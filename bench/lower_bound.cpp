@@ -70,10 +70,9 @@ int CancelLocalNotification(lua_State* L) {
 
 // Null if the argument is neither a string nor a number.
 struct StringArgument {
-  StringArgument(lua_State* L, int index) : data(lua_tolstring(L, index, &size)) {}
-  std::string Make() const { return data; }  // up to the first zero byte, as the SDK takes strings
+  StringArgument(lua_State* L, int index) : data(lua_tostring(L, index)) {}
+  std::string Make() const { return data; }  // up to the first zero byte
 
-  std::size_t size;
   const char* data;
 };
 
@@ -119,7 +118,7 @@ int DeleteInviters(lua_State* L) {
   for (int k = 1; k <= length; ++k) {
     lua_rawgeti(L, 1, k);
     const StringArgument element(L, -1);
-    list.emplace_back(element.data, element.size);
+    list.emplace_back(element.data);
     if (k % 16 == 0) lua_settop(L, 1);  // Lua promises 20 slots
   }
   zvDeleteInviters(list);
@@ -189,7 +188,7 @@ int SetShareData(lua_State* L) {
   while (lua_next(L, 2) != 0) {
     const StringArgument key(L, -2);
     const StringArgument value(L, -1);
-    map.try_emplace(key.Make(), value.data, value.size);
+    map.try_emplace(key.Make(), value.data);
     lua_pop(L, 1);
   }
   share->record->set_shareData(map);

@@ -38,14 +38,17 @@ const char* ClaimedLength(lua_State* L, int index, std::int32_t& length) {
 }
 
 StringList ReadStringList(lua_State* L, int index, std::int32_t length) {
+  constexpr std::int32_t kKept = 8;  // elements are popped so many at a time
+  const int top = lua_gettop(L);
   StringList list;
   list.reserve(std::min(static_cast<std::size_t>(length), lua_rawlen(L, index)));
   ValueText text;
   for (std::int32_t k = 1; k <= length; ++k) {
     const int type = lua_rawgeti(L, index, k);
     if (const char* element = text.Get(L, -1, type)) list.emplace_back(element);
-    lua_pop(L, 1);
+    if (k % kKept == 0) lua_settop(L, top);
   }
+  lua_settop(L, top);
   return list;
 }
 
@@ -91,14 +94,14 @@ void ForEachKey(lua_State* L, int index, Entry entry) {
   }
 }
 
-inline void PushValue(lua_State* L, const std::string& text) { PushString(L, text); }
+inline void PushValue(lua_State* L, const std::string& text) { lua_pushstring(L, text.c_str()); }
 inline void PushValue(lua_State* L, std::int32_t value) { lua_pushinteger(L, value); }
 
 template <class Map>
 void PushMap(lua_State* L, const Map& map) {
   lua_createtable(L, 0, TableSize(map.size()));
   for (const auto& [key, value] : map) {
-    PushString(L, key);
+    PushValue(L, key);
     PushValue(L, value);
     lua_rawset(L, -3);
   }
@@ -126,7 +129,8 @@ IntMap ReadMap(lua_State* L, int index) {
 void PushContainer(lua_State* L, const StringList& list) {
   lua_createtable(L, TableSize(list.size()), 0);
   for (std::size_t k = 0; k < list.size(); ++k) {
-    PushString(L, list[k]);
+    // Not lua_pushstring, whose cache by address has no room for a list.
+    lua_pushlstring(L, list[k].data(), std::strlen(list[k].c_str()));
     lua_rawseti(L, -2, static_cast<lua_Integer>(k + 1));
   }
 }

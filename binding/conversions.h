@@ -66,15 +66,27 @@ std::vector<std::int32_t> ReadIntList(lua_State* L, int index, std::int32_t leng
 template <class Map>
 Map ReadMap(lua_State* L, int index);
 
+// Returns about how many bytes of the heap a container takes.
+inline std::size_t HeapBytes(const std::string& text) { return text.size(); }
+inline std::size_t HeapBytes(std::int32_t) { return 0; }
+template <class Value>
+std::size_t HeapBytes(const std::unordered_map<std::string, Value>& map) {
+  std::size_t bytes = 0;
+  for (const auto& [key, value] : map) bytes += 64 + HeapBytes(key) + HeapBytes(value);
+  return bytes;
+}
+inline std::size_t HeapBytes(const tarn::velora::StringList& list) {
+  std::size_t bytes = 0;
+  for (const std::string& element : list) bytes += sizeof element + HeapBytes(element);
+  return bytes;
+}
+
 // Tables are created with their final size, which Lua takes as an int.
 inline int TableSize(std::size_t size) {
   return static_cast<int>(std::min<std::size_t>(size, std::numeric_limits<int>::max()));
 }
 
 // Each pushes one new value and may raise and run script code. Strings end at their first zero byte.
-inline void PushString(lua_State* L, const std::string& text) {
-  lua_pushlstring(L, text.data(), std::char_traits<char>::length(text.c_str()));
-}
 void PushContainer(lua_State* L, const tarn::velora::StringList& list);
 void PushContainer(lua_State* L, const tarn::velora::StringMap& map);
 void PushContainer(lua_State* L, const tarn::velora::IntMap& map);
@@ -105,9 +117,9 @@ Outcome TextResult(lua_State* L, Fill fill) {
     if (IsSmallString(*out)) {
       text = out.release()->c_str();
     } else {
-      const std::size_t size = std::char_traits<char>::length(out->c_str()) + 1;
-      if (size > kShort) return PushProtected(L, [&out](lua_State* state) { PushString(state, *out); });
-      std::char_traits<char>::copy(copy, out->c_str(), size);
+      if (out->size() >= kShort)
+        return PushProtected(L, [&out](lua_State* state) { lua_pushstring(state, out->c_str()); });
+      std::char_traits<char>::copy(copy, out->c_str(), out->size() + 1);
     }
   }
   lua_pushstring(L, text);

@@ -34,21 +34,42 @@ void Owned::Unlink() {
 }
 
 void ModuleState::ReleaseAll() {
-  while (first != nullptr) {
-    Owned& owned = *first;
+  while (first_ != nullptr) {
+    Owned& owned = *first_;
     owned.Unlink();  // it may outlive its release
+    owned.state_ = nullptr;
     owned.Release();
   }
+  while (freeBlocks_ != nullptr) ::operator delete(std::exchange(freeBlocks_, *static_cast<void**>(freeBlocks_)));
+}
+
+void ModuleState::PayDebt(lua_State* L) {
+  const auto kilobytes = static_cast<int>(debt_ / 1024);
+  debt_ = 0;
+  if (lua_gc(L, LUA_GCISRUNNING, 0) != 0) lua_gc(L, LUA_GCSTEP, kilobytes);
+}
+
+void* ModuleState::TakeBlock() {
+  if (freeBlocks_ == nullptr) return ::operator new(kBlockSize);
+  --freeCount_;
+  return std::exchange(freeBlocks_, *static_cast<void**>(freeBlocks_));
+}
+
+void ModuleState::ReturnBlock(void* block) {
+  if (freeCount_ == kMaxFreeBlocks) return ::operator delete(block);
+  ++freeCount_;
+  *static_cast<void**>(block) = std::exchange(freeBlocks_, block);
 }
 
 void ModuleState::Link(Owned& owned) {
-  owned.next_ = first;
-  owned.link_ = &first;
-  if (first != nullptr) first->link_ = &owned.next_;
-  first = &owned;
+  owned.state_ = this;
+  owned.next_ = first_;
+  owned.link_ = &first_;
+  if (first_ != nullptr) first_->link_ = &owned.next_;
+  first_ = &owned;
 }
 
-void OpenModuleState(lua_State* L, void (*atClose)(lua_State*, const ModuleState&)) {
+void OpenModuleState(lua_State* L, ModuleState::AtClose* atClose) {
   if (ModuleStateOf(L) != nullptr) return;
   KeepErrorText(L);
   lua_rawgeti(L, LUA_REGISTRYINDEX, LUA_RIDX_MAINTHREAD);
@@ -56,7 +77,7 @@ void OpenModuleState(lua_State* L, void (*atClose)(lua_State*, const ModuleState
   lua_createtable(L, 0, 1);
   lua_pushcfunction(L, Entry<Close>);
   lua_setfield(L, -2, "__gc");
-  new (lua_newuserdata(L, sizeof(ModuleState))) ModuleState{mainState, atClose};
+  new (lua_newuserdata(L, sizeof(ModuleState))) ModuleState(mainState, atClose);
   lua_pushvalue(L, -1);
   lua_rawsetp(L, LUA_REGISTRYINDEX, &stateKey);
   // The finalizer comes last: nothing can raise any more, so a state that is not registered is never closed.

@@ -4,8 +4,6 @@
 #include <lua.hpp>
 #include <string>
 
-#include "binding/conversions.h"
-
 namespace luavelora {
 
 inline void SetConstant(lua_State* L, const char* key, lua_Integer value) {
@@ -16,7 +14,7 @@ inline void SetConstant(lua_State* L, const char* key, lua_Integer value) {
 
 inline void SetConstant(lua_State* L, const char* key, const std::string& value) {
   lua_pushstring(L, key);
-  PushString(L, value);
+  lua_pushstring(L, value.c_str());
   lua_rawset(L, -3);
 }
 

@@ -13,14 +13,14 @@
 
 namespace luavelora {
 
-// How to test, read and construct a parameter of one type. `Read` returns a view, which owns nothing; `Make` builds the
-// SDK's value from it.
+// How to test, read and construct a parameter of one type. `Read` returns a view, which owns nothing, and null for a
+// string or an object that is not one; `Make` builds the SDK's value from the view.
 template <class Type>
 struct Parameter;
 
 struct TextParameter {
   using View = const char*;
-  static bool Test(lua_State* L, int index) { return lua_isstring(L, index) != 0; }
+  static bool Test(lua_State*, int) { return true; }
   static View Read(lua_State* L, int index) { return TextArgument(L, index); }
 };
 
@@ -79,12 +79,11 @@ inline constexpr bool kIsObject = std::is_pointer_v<View> && !std::is_same_v<Vie
 
 template <class View>
 bool IsMissing(const View& view) {
-  if constexpr (kIsObject<View>) return view == nullptr;
+  if constexpr (std::is_pointer_v<View>) return view == nullptr;
   return false;
 }
 
-// Tests the arguments, reads them, and calls `use(views...)` with the views of all parameters. For objects, Read is the
-// test: it returns null for a wrong one.
+// Tests the arguments, reads them, and calls `use(views...)` with the views of all parameters.
 template <class... Parameters, class Use>
 Outcome WithArguments(lua_State* L, Use use) {
   static_assert(sizeof...(Parameters) < 2 || !(kIsObject<typename Parameter<Parameters>::View> || ...),

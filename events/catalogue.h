@@ -11,7 +11,7 @@ namespace luavelora {
 inline void PushField(lua_State* L, ModuleState&, std::int32_t value) { lua_pushinteger(L, value); }
 inline void PushField(lua_State* L, ModuleState&, std::uint8_t flag) { lua_pushboolean(L, flag != 0); }
 inline void PushField(lua_State* L, ModuleState&, float value) { lua_pushnumber(L, value); }
-inline void PushField(lua_State* L, ModuleState&, const std::string& text) { PushString(L, text); }
+inline void PushField(lua_State* L, ModuleState&, const std::string& text) { lua_pushstring(L, text.c_str()); }
 
 inline void PushField(lua_State* L, ModuleState&, const tarn::velora::StringList& list) { PushContainer(L, list); }
 

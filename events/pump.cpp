@@ -1,6 +1,7 @@
 // The per-frame pass over the SDK's events.
 #include "events/pump.h"
 
+#include <bitset>
 #include <memory>
 #include <vector>
 
@@ -29,10 +30,9 @@ struct Pass {
 
 constexpr int kTableIndex = 1;
 
-// Calls the slot's function with the arguments of the layout.
+// Calls the slot's function, which is on top of the stack, with the arguments of the layout.
 template <class Layout>
 void Deliver(lua_State* L, ModuleState& state, const Event& event) {
-  lua_rawgeti(L, kTableIndex, event.type);
   const int arguments = PushArguments(L, state, static_cast<const Layout&>(event));
   if (lua_pcallk(L, arguments, 0, 0, 0, nullptr) != LUA_OK) {
     LogCallbackError(L);
@@ -59,20 +59,28 @@ constexpr bool InOrder() {
 static_assert(InOrder(), "the rows of events.def are in the order of their type numbers");
 
 // Delivers the rest of the batch; runs in protected mode. The callback table never changes during the state's life, so
-// it is fetched once; its slots are read again for every event, since callbacks may change them.
+// it is fetched once; a slot is read for every event, since callbacks may change it, unless it was found empty and no
+// callback has run since.
 void DeliverRest(lua_State* L, Pass& pass) {
   ModuleState* state = ModuleStateOf(L);
   if (state == nullptr) return;
   GetSdkCallbackTable(L, kCallbackTable);
+  std::bitset<kEventTypes> empty;  // the slots found empty since a callback ran
   while (pass.next < pass.batch.size()) {
     const Event& event = *pass.batch[pass.next++];
+    const auto type = static_cast<std::uint32_t>(event.type);
+    if (type < kEventTypes && empty[type]) continue;
     const bool wanted = lua_rawgeti(L, kTableIndex, event.type) != LUA_TNIL;
+    if (wanted && type < kEventTypes) {
+      kDeliver[type](L, *state, event);
+      empty.reset();
+      continue;
+    }
     lua_pop(L, 1);
-    if (!wanted) continue;
-    if (static_cast<std::uint32_t>(event.type) >= kEventTypes)
+    if (wanted)
       tarn::log::LogError(tarn::velora::LogChannel, "Unknown velora event %d", event.type);
-    else
-      kDeliver[event.type](L, *state, event);
+    else if (type < kEventTypes)
+      empty.set(type);
   }
   lua_settop(L, 0);
 }

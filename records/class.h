@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 
 #include "binding/boundary.h"
 #include "binding/conversions.h"
@@ -49,11 +50,18 @@ Outcome NewWithOptionalString(lua_State* L) {
 // `__gc`: detaches the holder from its userdata, so that later calls see a wrong self, and frees it.
 template <class Record>
 Outcome Collect(lua_State* L) {
-  if (auto* holder = Self<Record>(L)) {
+  if (auto* holder = SelfAndNoMore<Record>(L)) {
     *static_cast<Owned**>(lua_touserdata(L, 1)) = nullptr;
     holder->Release();
   }
   return Outcome::Results(0);
+}
+
+// The finalizer of the metatable, which scripts cannot reach: Lua passes it the class's userdata and nothing else, so
+// it needs neither the tests of the class table's `__gc` nor the boundary.
+inline int Finalize(lua_State* L) {
+  if (Owned* holder = std::exchange(*static_cast<Owned**>(lua_touserdata(L, 1)), nullptr)) holder->Release();
+  return 0;
 }
 
 // `__tostring`: `fill(holder, out)` writes the string and reports success.
@@ -84,9 +92,11 @@ void RegisterClass(lua_State* L, const luaL_Reg (&rows)[count]) {
   luaL_setfuncs(L, rows, 0);
   InitUserTypeMetaTable(L, Class::kMetatable);
   luaL_getmetatable(L, Class::kMetatable);
-  lua_pushboolean(L, 1);
-  lua_rawsetp(L, -2, &kClassKey<Record>);
-  lua_rawsetp(L, LUA_REGISTRYINDEX, &kClassKey<Record>);
+  lua_pushcfunction(L, Finalize);
+  lua_setfield(L, -2, "__gc");
+  lua_pushlightuserdata(L, &classKey<Record>);
+  lua_rawseti(L, -2, kClassMark);
+  lua_rawsetp(L, LUA_REGISTRYINDEX, &classKey<Record>);
   lua_setfield(L, -2, Class::kName);
 }
 

@@ -10,11 +10,11 @@ namespace {
 // Its objects are a wrong self from now on, and no new ones are made.
 template <class Record>
 void Unregister(lua_State* L) {
-  if (lua_rawgetp(L, LUA_REGISTRYINDEX, &kClassKey<Record>) == LUA_TTABLE) {
+  if (lua_rawgetp(L, LUA_REGISTRYINDEX, &classKey<Record>) == LUA_TTABLE) {
     lua_pushnil(L);
-    lua_rawsetp(L, -2, &kClassKey<Record>);
+    lua_rawseti(L, -2, kClassMark);
     lua_pushnil(L);
-    lua_rawsetp(L, LUA_REGISTRYINDEX, &kClassKey<Record>);
+    lua_rawsetp(L, LUA_REGISTRYINDEX, &classKey<Record>);
   }
   lua_pop(L, 1);
   RemoveUserTypeMetaTable(L, tarn::velora::ClassNames<Record>::kMetatable);

@@ -58,6 +58,15 @@ void Store(HolderOf<ClassOfMember<field>>& holder, const Value& value) {
     CallOnRecord<field>(holder, value);
 }
 
+// Memory of less than this is not worth telling the collector about.
+inline constexpr std::size_t kMuch = 1024;
+
+// Charges the Lua state for a field's new content. May raise and run script code.
+inline void ChargeField(lua_State* L, std::size_t bytes) {
+  if (bytes < kMuch) return;
+  if (ModuleState* state = ModuleStateOf(L)) state->Charge(L, bytes);
+}
+
 namespace family {
 
 // A number or boolean: `push` pushes it, `read` reads argument 2, 0 or false for any other type.
@@ -65,7 +74,7 @@ template <auto push, auto read>
 struct Scalar {
   template <auto field>
   static Outcome Get(lua_State* L) {
-    auto* holder = Self<ClassOfMember<field>>(L);
+    auto* holder = SelfAndNoMore<ClassOfMember<field>>(L);
     if (holder == nullptr) return Refusal();
     push(L, Load<field>(*holder));
     return Outcome::Results(1);
@@ -73,8 +82,9 @@ struct Scalar {
 
   template <auto field>
   static Outcome Set(lua_State* L) {
-    auto* holder = Self<ClassOfMember<field>>(L);
-    if (holder != nullptr) Store<field>(*holder, read(L, 2));
+    const auto value = read(L, 2);
+    auto* holder = SelfAndNoMore<ClassOfMember<field>>(L);
+    if (holder != nullptr) Store<field>(*holder, value);
     return Outcome::Results(0);
   }
 };
@@ -98,7 +108,7 @@ using Bool = Scalar<PushBoolean, ReadBool>;
 struct String {
   template <auto field>
   static Outcome Get(lua_State* L) {
-    auto* holder = Self<ClassOfMember<field>>(L);
+    auto* holder = SelfAndNoMore<ClassOfMember<field>>(L);
     if (holder == nullptr) return Refusal();
     return TextResult(L, [holder](std::string& out) { return Load<field>(*holder, out); });
   }
@@ -106,8 +116,10 @@ struct String {
   // Stores the empty string for a value that is neither a string nor a number.
   template <auto field>
   static Outcome Set(lua_State* L) {
-    const char* text = TextArgument(L, 2);  // first: it may run script code, which may finalize the object
-    auto* holder = Self<ClassOfMember<field>>(L);
+    std::size_t size = 0;
+    const char* text = lua_tolstring(L, 2, &size);
+    ChargeField(L, size);
+    auto* holder = SelfAndNoMore<ClassOfMember<field>>(L);  // now, since what is above may have run script code
     if (holder != nullptr) Store<field>(*holder, std::string(text == nullptr ? "" : text));
     return Outcome::Results(0);
   }
@@ -136,7 +148,13 @@ struct RecordMap : StringMap {
     auto* holder = Self<ClassOfMember<field>>(L);
     if (holder == nullptr) return Refusal();
     if (!lua_istable(L, 2)) return Outcome::Error("ptrHashMapmust be table");
-    Store<field>(*holder, ReadMap<tarn::velora::StringMap>(L, 2));
+    std::size_t bytes = 0;
+    {
+      const auto map = ReadMap<tarn::velora::StringMap>(L, 2);
+      bytes = HeapBytes(map);
+      Store<field>(*holder, map);
+    }
+    ChargeField(L, bytes);
     return Outcome::Results(0);
   }
 };
@@ -156,9 +174,15 @@ struct StrictList {
   static Outcome Set(lua_State* L) {
     auto* holder = Self<ClassOfMember<field>>(L);
     if (holder == nullptr || !lua_istable(L, 2)) return Refusal();
-    tarn::velora::StringList list;
-    if (const char* error = ReadStrictStringList(L, 2, list, "localeId need string list")) return Outcome::Error(error);
-    Store<field>(*holder, list);
+    std::size_t bytes = 0;
+    {
+      tarn::velora::StringList list;
+      if (const char* error = ReadStrictStringList(L, 2, list, "localeId need string list"))
+        return Outcome::Error(error);
+      bytes = HeapBytes(list);
+      Store<field>(*holder, list);
+    }
+    ChargeField(L, bytes);
     return Outcome::Results(0);
   }
 };
@@ -194,10 +218,12 @@ Outcome SetCache(lua_State* L) {
     std::int32_t length = 0;
     if (const char* tooLong = ClaimedLength(L, 2, length)) return Outcome::Error(tooLong);
     holder = Self<Record>(L);  // asking for the length may have run script code, which may have finalized the object
-    if (holder != nullptr) holder->*cache = std::make_shared<const Content>(ReadStringList(L, 2, length));
+    if (holder == nullptr) return Refusal();
+    holder->*cache = std::make_shared<const Content>(ReadStringList(L, 2, length));
   } else {
     holder->*cache = std::make_shared<const Content>(ReadMap<Content>(L, 2));
   }
+  ChargeField(L, HeapBytes(*(holder->*cache)));
   return Outcome::Results(0);
 }
 

@@ -13,7 +13,7 @@ namespace luavelora {
 // One owner of a record that the SDK may own too.
 template <class Record>
 struct SharedRecordHolder : Owned {
-  explicit SharedRecordHolder(const std::shared_ptr<Record>& reference) : record(reference) {}
+  explicit SharedRecordHolder(const std::shared_ptr<Record>& reference) noexcept : record(reference) {}
 
   std::shared_ptr<Record> record;
 };

@@ -27,7 +27,7 @@ Outcome getProductList(lua_State* L) {
     ModuleState& state = *ModuleStateOf(inner);
     lua_createtable(inner, 0, TableSize(products.size()));
     for (const auto& [productId, product] : products) {
-      PushString(inner, productId);
+      lua_pushstring(inner, productId.c_str());
       if (Owned** block = PushWithoutHolder<ProductInfo>(inner, state))
         *block = state.Create<ProductInfoHolder>(product);
       lua_rawset(inner, -3);

@@ -9,15 +9,27 @@
 
 namespace luavelora {
 
-// Pushes a new userdata of the class that has no holder yet, and is therefore no object, and returns its block. Pushes
-// nil and returns null if the state is closing or the class is not registered. May raise.
+// Pushes the metatable of the class, or nil if the class is not registered.
 template <class Record>
-Owned** PushWithoutHolder(lua_State* L, const ModuleState& state) {
+void PushMetatable(lua_State* L) {
+  lua_rawgetp(L, LUA_REGISTRYINDEX, &classKey<Record>);
+}
+
+// What an object takes of the heap beside its userdata: its holder and, as a guess at the least, the SDK's record.
+template <class Record>
+inline constexpr std::size_t kObjectBytes = sizeof(HolderOf<Record>) + 80;
+
+// Pushes a new userdata that has no holder yet, and is therefore no object, and returns its block. `pushMetatable()`
+// pushes the metatable of the class. Pushes nil and returns null if that is nil or the state is closing. May raise.
+template <class Record, class Push>
+Owned** PushWithoutHolder(lua_State* L, ModuleState& state, Push pushMetatable) {
+  state.Charge(L, kObjectBytes<Record>);
   auto* block = static_cast<Owned**>(lua_newuserdata(L, sizeof(Owned*)));
   *block = nullptr;
+  pushMetatable();
   // Tested now, since creating the userdata may have run script code, and even the closing.
-  if (state.closed || lua_rawgetp(L, LUA_REGISTRYINDEX, &kClassKey<Record>) != LUA_TTABLE) {
-    lua_settop(L, -(state.closed ? 1 : 2) - 1);
+  if (state.closed || !lua_istable(L, -1)) {
+    lua_pop(L, 2);
     lua_pushnil(L);
     return nullptr;
   }
@@ -25,24 +37,37 @@ Owned** PushWithoutHolder(lua_State* L, const ModuleState& state) {
   return block;
 }
 
+template <class Record>
+Owned** PushWithoutHolder(lua_State* L, ModuleState& state) {
+  return PushWithoutHolder<Record>(L, state, [L] { PushMetatable<Record>(L); });
+}
+
 // Pushes a userdata with a reference of its own to the record. Pushes nil if `reference` is empty or if no userdata can
 // own one. May raise.
-template <class Record>
-void PushRecord(lua_State* L, ModuleState& state, const std::shared_ptr<Record>& reference) {
+template <class Record, class Push>
+void PushRecord(lua_State* L, ModuleState& state, const std::shared_ptr<Record>& reference, Push pushMetatable) {
   if (reference == nullptr)
     lua_pushnil(L);
-  else if (Owned** block = PushWithoutHolder<Record>(L, state))
+  else if (Owned** block = PushWithoutHolder<Record>(L, state, pushMetatable))
     *block = state.Create<HolderOf<Record>>(reference);
+}
+
+template <class Record>
+void PushRecord(lua_State* L, ModuleState& state, const std::shared_ptr<Record>& reference) {
+  PushRecord(L, state, reference, [L] { PushMetatable<Record>(L); });
 }
 
 // Pushes a new table with a userdata for each record, nil for an empty reference. May raise.
 template <class Record>
 void PushRecordList(lua_State* L, ModuleState& state, const std::vector<std::shared_ptr<Record>>& records) {
   lua_createtable(L, TableSize(records.size()), 0);
+  PushMetatable<Record>(L);
+  const int metatable = lua_gettop(L);
   for (std::size_t k = 0; k < records.size(); ++k) {
-    PushRecord(L, state, records[k]);
-    lua_rawseti(L, -2, static_cast<lua_Integer>(k + 1));
+    PushRecord(L, state, records[k], [L, metatable] { lua_pushvalue(L, metatable); });
+    lua_rawseti(L, metatable - 1, static_cast<lua_Integer>(k + 1));
   }
+  lua_pop(L, 1);
 }
 
 }  // namespace luavelora

@@ -25,7 +25,7 @@ template <class Record>
 struct Parameter<const std::shared_ptr<Record>&> {
   using View = HolderOf<Record>*;
   static bool Test(lua_State*, int) { return true; }
-  static View Read(lua_State* L, int index) { return Self<Record>(L, index); }
+  static View Read(lua_State* L, int index) { return SelfAndNoMore<Record>(L, index); }
   static RecordArgument<Record> Make(View view) { return RecordArgument<Record>(*view); }
 };
 

@@ -33,7 +33,7 @@ void InitUserTypeMetaTable(lua_State* L, const char* name) {
   const int classTable = lua_gettop(L);
   if (luaL_getmetatable(L, name) != LUA_TTABLE) {
     lua_pop(L, 1);
-    lua_createtable(L, 0, 5);
+    lua_createtable(L, 1, 5);  // the owner of the class may keep something at 1
     lua_pushstring(L, name);
     lua_setfield(L, -2, "__name");
     lua_pushboolean(L, 0);
