@@ -88,7 +88,7 @@ struct ModuleState {
  private:
   friend class Owned;
 
-  static constexpr std::size_t kMaxDebt = 16 * 1024;
+  static constexpr std::size_t kMaxDebt = 16384;
   void PayDebt(lua_State* L);
 
   // Blocks for small objects. Freed ones are kept for the next, as many as a busy game needs between two collections.

@@ -24,7 +24,7 @@ inline constexpr std::size_t kObjectBytes = sizeof(HolderOf<Record>) + 80;
 template <class Record, class Push>
 Owned** PushWithoutHolder(lua_State* L, ModuleState& state, Push pushMetatable) {
   state.Charge(L, kObjectBytes<Record>);
-  auto* block = static_cast<Owned**>(lua_newuserdata(L, sizeof(Owned*)));
+  auto* block = static_cast<Owned**>(lua_newuserdata(L, sizeof(void*)));
   *block = nullptr;
   pushMetatable();
   // Tested now, since creating the userdata may have run script code, and even the closing.
