@@ -67,7 +67,9 @@ void DeliverRest(lua_State* L, Pass& pass) {
   GetSdkCallbackTable(L, kCallbackTable);
   std::bitset<kEventTypes> empty;  // the slots found empty since a callback ran
   while (pass.next < pass.batch.size()) {
-    const Event& event = *pass.batch[pass.next++];
+    const Event* reference = pass.batch[pass.next++].get();
+    if (reference == nullptr) continue;
+    const Event& event = *reference;
     const auto type = static_cast<std::uint32_t>(event.type);
     if (type < kEventTypes && empty[type]) continue;
     const bool wanted = lua_rawgeti(L, kTableIndex, event.type) != LUA_TNIL;

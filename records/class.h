@@ -7,6 +7,7 @@
 
 #include "binding/boundary.h"
 #include "binding/conversions.h"
+#include "binding/helpers/metatables.h"
 #include "platform/binding_helpers.h"
 #include "records/push.h"
 
@@ -57,8 +58,8 @@ Outcome Collect(lua_State* L) {
   return Outcome::Results(0);
 }
 
-// The finalizer of the metatable, which scripts cannot reach: Lua passes it the class's userdata and nothing else, so
-// it needs neither the tests of the class table's `__gc` nor the boundary.
+// The finalizer of the metatable, which scripts cannot reach: Lua passes it the class's userdata and nothing else, and
+// not after the state has closed. So it needs neither the tests of the class table's `__gc` nor the boundary.
 inline int Finalize(lua_State* L) {
   if (Owned* holder = std::exchange(*static_cast<Owned**>(lua_touserdata(L, 1)), nullptr)) holder->Release();
   return 0;
@@ -90,6 +91,11 @@ void RegisterClass(lua_State* L, const luaL_Reg (&rows)[count]) {
   using Class = tarn::velora::ClassNames<Record>;
   lua_createtable(L, 0, static_cast<int>(count) - 1);
   luaL_setfuncs(L, rows, 0);
+  luaL_getmetatable(L, Class::kMetatable);
+  PushMetatable<Record>(L);
+  const bool isOurs = lua_rawequal(L, -1, -2) != 0;
+  lua_pop(L, 2);
+  if (!isOurs) RemoveUserTypeMetaTable(L, Class::kMetatable);  // somebody else's: its userdata would be read as objects
   InitUserTypeMetaTable(L, Class::kMetatable);
   luaL_getmetatable(L, Class::kMetatable);
   lua_pushcfunction(L, Finalize);

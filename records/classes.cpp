@@ -7,10 +7,13 @@
 namespace luavelora {
 namespace {
 
-// Its objects are a wrong self from now on, and no new ones are made.
+// Its objects are a wrong self from now on, and no new ones are made. Without a finalizer, those that Lua collects
+// later are not asked for their holders, which are gone.
 template <class Record>
 void Unregister(lua_State* L) {
   if (lua_rawgetp(L, LUA_REGISTRYINDEX, &classKey<Record>) == LUA_TTABLE) {
+    lua_pushnil(L);
+    lua_setfield(L, -2, "__gc");
     lua_pushnil(L);
     lua_rawseti(L, -2, kClassMark);
     lua_pushnil(L);

@@ -169,6 +169,19 @@ TEST_F(EntryPoints, HelpersKeepTheirContract) {
   lua_settop(L, 0);
 }
 
+// A userdata of somebody else's class under one of the module's names must not be read as an object.
+TEST_F(EntryPoints, AForeignMetatableIsNotAdopted) {
+  host.Open(false);
+  lua_State* L = host.L;
+  *static_cast<void**>(lua_newuserdata(L, sizeof(void*))) = L;
+  luaL_newmetatable(L, "LuaOrderInfo");
+  lua_setmetatable(L, -2);
+  lua_setglobal(L, "foreign");
+  InitLuaVelora(L);
+  EXPECT_EQ(host.Run("return velora.OrderInfo.get_count(foreign)"), "");
+  EXPECT_EQ(host.Run("return velora.OrderInfo.new(1):get_productId()"), "\"1\"");
+}
+
 TEST_F(EntryPoints, ScriptsCannotReachAMetatable) {
   EXPECT_EQ(host.Run("return getmetatable(velora.OrderInfo.new(1)), pcall(setmetatable, velora.OrderInfo.new(1), {})"),
             "false, false, \"bad argument #1 to 'setmetatable' (table expected, got LuaOrderInfo)\"");

@@ -241,6 +241,18 @@ TEST_F(Hostile, FinalisersThatCollectWhileTheStateCloses) {
   }
 }
 
+// An object that a finalizer creates while the state closes, and that is collected when its holder is gone.
+TEST_F(Hostile, AnObjectThatOutlivesTheClosing) {
+  host.Open(false);
+  host.Run("last = setmetatable({}, {__gc = function() collectgarbage() end})");
+  InitLuaVelora(host.L);
+  host.Run("first = setmetatable({}, {__gc = function() velora.OrderInfo.new('late') end})");
+  lua_gc(host.L, LUA_GCCOLLECT, 0);
+  lua_gc(host.L, LUA_GCSTOP, 0);
+  host.Close();
+  EXPECT_EQ(offline::LiveRecords(), 0u);
+}
+
 // A finaliser that sets a handler of its own in the middle of setting one: whoever comes last wins, nothing is mixed.
 TEST_F(Hostile, HandlersSetWhileAHandlerIsSet) {
   host.Run(
