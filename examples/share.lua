@@ -11,7 +11,7 @@ share:set_link("https://example.com/lighthouse")
 share:set_toUserList{ "friend.1", "friend.2" }
 share:set_linkParams{ floor = "7" }
 
--- A getter gives a copy of a table field: change the copy, then set the whole field again.
+-- A getter returns a copy of a table field: change the copy, then set the whole field again.
 local params = share:get_linkParams()
 params.guide = "anna"
 share:set_linkParams(params)

@@ -1,7 +1,7 @@
 -- A walk through the whole module: start and log in, shop, meet friends, share, press a button, download, leave.
 -- Play it with velora-play. Whatever the SDK has to think about is answered on a later frame, through a callback.
 
--- Far more frames than any answer takes: past them something is wrong.
+-- Far more frames than any event takes to come.
 local PATIENCE = 600
 
 local function say(format, ...)
@@ -19,7 +19,7 @@ local function pause(frames)
   end
 end
 
--- Calls a function and lets frames pass until the event that answers it; returns what the event's callback receives.
+-- Calls a function and lets frames pass until its event comes; returns what the event's callback receives.
 local function ask(event, operation, ...)
   local answer
   velora["setOn" .. event](function(...)

@@ -41,11 +41,11 @@ std::shared_ptr<Event> MakeEvent(Values&&... values) {
 }
 
 // Answers an operation from the runtime's thread, soon and in the order of the calls: the events are queued there, and
-// `effect` runs when SwapEvents gives them out, so that what it changes is seen no sooner. Either all of it is on its
+// `effect` runs when SwapEvents returns them, so that its changes are not visible earlier. Either all of it is on its
 // way, or this throws and nothing is.
 void Reply(std::vector<std::shared_ptr<Event>> answers, std::function<void()> effect = nullptr);
 
-// Drops the events for which `unwanted` holds and which SwapEvents has not given out: queued ones, and answers that
+// Drops the events for which `unwanted` holds and which SwapEvents has not returned yet: queued ones, and answers that
 // have yet to be queued.
 void TakeBack(bool (*unwanted)(const Event& event));
 

@@ -23,7 +23,7 @@ namespace tarn::velora::offline {
 
 class Record {
  public:
-  // `madeWith` is the text of the arguments that the record was made with, as call lines give it.
+  // `madeWith` is the arguments that the record was made with, in the form of call lines.
   Record(const char* recordClass, std::string madeWith);
   Record(const Record&) = delete;
   Record& operator=(const Record&) = delete;
@@ -54,7 +54,7 @@ class Record {
     return field;
   }
 
-  // A set answer that is no number leaves the field's value.
+  // A set answer that is not a number is ignored.
   template <class Number>
   Number ReadNumber(const char* operation, const Number& field) const {
     const Number stored = Read(operation, field);
@@ -76,7 +76,7 @@ class Record {
     std::swap(field, fresh);
   }
 
-  // A text producer of the record: call line, set answer, else `Class(made with) {fields}`.
+  // A string producer of the record: call line, set answer, else `Class(made with) {fields}`.
   template <class Derived>
   bool TextForm(const char* operation, const Derived& self, std::string& out) const {
     const auto& record = static_cast<const Record&>(self);
@@ -117,7 +117,7 @@ std::shared_ptr<Derived> MakeFilled(const Fields& fields) {
   return record;
 }
 
-// What a factory answers: a new record unless the set answer is false.
+// Returns the result of a factory: a new record, or none if the set answer is false.
 template <class Derived>
 std::shared_ptr<Derived> Produce(const char* operation, std::string madeWith) {
   if (!Operation(operation).Flag(true)) return nullptr;

@@ -1,6 +1,6 @@
 // The six helpers between record holders and Lua userdata. All run on the thread that owns the Lua state;
-// each raises nothing of its own, only Lua's memory error or that of a finaliser which the collector runs meanwhile.
-// What they keep stands in the Lua registry under the names given, so a class and a callback table do not share one.
+// each raises nothing of its own, only Lua's memory error or that of a finalizer that the collector runs.
+// What they keep is in the Lua registry under the names given, so a class and a callback table must not share one.
 #pragma once
 
 #include <cstdint>

@@ -9,8 +9,8 @@
 
 namespace tarn::velora::download {
 
-// Hears of downloads at once, where the queued download events come a frame later. Three virtual slots, no more.
-// Texts and bytes are valid during the call only; either may be null.
+// Notified at once, unlike the queued events, which arrive a frame later. Exactly three virtual slots.
+// Strings and bytes are valid during the call only; either may be null.
 class VELORA_SDK_TYPE SyncDownloadHandler {
  public:
   SyncDownloadHandler() = default;
@@ -25,14 +25,14 @@ class VELORA_SDK_TYPE SyncDownloadHandler {
   ~SyncDownloadHandler() = default;
 };
 
-// Starts the service; it answers by its first event.
+// Starts the service, which then queues its first event.
 VELORA_SDK_API void init();
-// Hands the service a free-form command; it answers by events.
+// Passes a free-form command to the service, which replies by events.
 VELORA_SDK_API void extendFunc(const std::string& text);
 // No DownloadFinish2 is queued from now on.
 VELORA_SDK_API void disableDownloadFinish2();
 
-// Each fills `out` and reports whether there is a text.
+// Each fills `out` and returns whether there is a string.
 VELORA_SDK_API bool query(std::string& out);
 VELORA_SDK_API bool getDownloadSDKVersion(std::string& out);
 VELORA_SDK_API bool getOrbitSessionId(std::string& out);

@@ -197,7 +197,7 @@ static_assert(sizeof(PlainEvent) == 16 && sizeof(CodeEvent) == 24 && sizeof(Flag
 #endif
 
 // Moves every queued event, in queue order, into `events`, which is empty on entry: each is handed over once.
-// Called on the thread of Lua; the SDK's threads may queue meanwhile.
+// Called on the thread of Lua; the SDK's threads may queue at the same time.
 VELORA_SDK_API void SwapEvents(std::vector<std::shared_ptr<Event>>& events);
 
 }  // namespace tarn::velora

@@ -1,5 +1,5 @@
-// How the closed platform libraries' names are imported, and how the offline runtime, which stands in
-// their place, exports the same names.
+// How the closed platform libraries' names are imported, and how the offline runtime, which
+// replaces them, exports the same names.
 #pragma once
 
 #if defined(_WIN32)

@@ -1,4 +1,4 @@
-// The SDK's payment order. The operations stand in virtual-table order; the first is never called. A record is
+// The SDK's payment order. The operations are in virtual-table order; the first is never called. A record is
 // destroyed by its shared reference's own deleter; its operations may be called from any thread that holds one.
 #pragma once
 
@@ -14,7 +14,7 @@ namespace tarn::velora {
 
 class VELORA_SDK_TYPE OrderInfo {
  public:
-  // `New` gives a reference to a new record, or an empty one where the SDK does not support the class.
+  // `New` returns a reference to a new record, or an empty one if the SDK does not support the class.
   static VELORA_SDK_API std::shared_ptr<OrderInfo> New(const std::string& productId);
 
   // The product registry: fills `out` with copies of the registered products by id; tests, registers and types one.

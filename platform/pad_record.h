@@ -1,4 +1,4 @@
-// The SDK's controller record. The operations stand in virtual-table order; the first is never called. A record is
+// The SDK's controller record. The operations are in virtual-table order; the first is never called. A record is
 // destroyed by its shared reference's own deleter; its operations may be called from any thread that holds one.
 #pragma once
 

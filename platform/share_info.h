@@ -1,4 +1,4 @@
-// The SDK's share request. The operations stand in virtual-table order; the first is never called. A record is
+// The SDK's share request. The operations are in virtual-table order; the first is never called. A record is
 // destroyed by its shared reference's own deleter; its operations may be called from any thread that holds one.
 #pragma once
 
@@ -13,7 +13,7 @@ namespace tarn::velora {
 
 class VELORA_SDK_TYPE ShareInfo {
  public:
-  // `New` gives a reference to a new record, or an empty one where the SDK does not support the class.
+  // `New` returns a reference to a new record, or an empty one if the SDK does not support the class.
   static VELORA_SDK_API std::shared_ptr<ShareInfo> New();
   static VELORA_SDK_API std::shared_ptr<ShareInfo> New(const std::string& text);
 

@@ -1,4 +1,4 @@
-// The SDK's store item. The operations stand in virtual-table order; the first is never called. A record is
+// The SDK's store item. The operations are in virtual-table order; the first is never called. A record is
 // destroyed by its shared reference's own deleter; its operations may be called from any thread that holds one.
 #pragma once
 
@@ -11,7 +11,7 @@ namespace tarn::velora {
 
 class VELORA_SDK_TYPE SkuDetailsInfo {
  public:
-  // `New` gives a reference to a new record, or an empty one where the SDK does not support the class.
+  // `New` returns a reference to a new record, or an empty one if the SDK does not support the class.
   static VELORA_SDK_API std::shared_ptr<SkuDetailsInfo> New(const std::string& first, const std::string& second,
                                                             const std::string& third, const std::string& fourth,
                                                             const std::string& fifth, const std::string& sixth,

@@ -174,7 +174,7 @@ std::shared_ptr<Record> MakeRecord(const Value& table) {
   }
 }
 
-// A record is a userdata of its class, which then shares it, or a table of fields; false, which unlike nil can stand
+// A record is a userdata of its class, which then shares it, or a table of fields; false, which unlike nil can be
 // inside a list, is an empty reference too.
 template <class Record>
 void Read(const Value& value, std::shared_ptr<Record>& field) {

@@ -1,4 +1,4 @@
-// Callback slots, the per-frame pass, and what each event gives its callback.
+// Callback slots, the per-frame pass, and the arguments of each callback.
 #include <gtest/gtest.h>
 
 #include <map>

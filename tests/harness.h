@@ -21,7 +21,7 @@ namespace memory {
 // Lets every allocation after the next `allowed` ones fail, until Restore. Shrinking and freeing always succeed.
 void FailAfter(long allowed);
 
-// Ends the shortage and tells whether an allocation failed meanwhile.
+// Ends the shortage and returns whether an allocation failed.
 bool Restore();
 
 // The allocator of the test states; blocks in use are counted.
@@ -80,7 +80,7 @@ inline std::shared_ptr<tarn::velora::Event> MakeEvent(int type, bool filled) {
   return kEventRows[type].make(type, filled);
 }
 
-// Runs a chunk, which must give these results and make exactly these SDK calls, "; " between them.
+// Runs a chunk, which must return these results and make exactly these SDK calls, "; " between them.
 void Check(Host& host, const std::string& chunk, const std::string& results, const std::string& calls = "");
 
 // Starts each test from an empty offline runtime, and checks at its end that every record and block is gone.

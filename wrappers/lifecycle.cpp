@@ -6,14 +6,14 @@
 
 namespace luavelora::wrappers {
 
-// The one query that answers a bad argument with a value.
+// The one query that returns a value for a bad argument.
 Outcome hasFeature(lua_State* L) {
   const char* feature = TextArgument(L, 1);
   lua_pushboolean(L, feature != nullptr && tarn::velora::hasFeature(feature));
   return Outcome::Results(1);
 }
 
-// A second argument without text chooses the shorter form, as an absent one does.
+// A second argument that is neither a string nor a number chooses the shorter form, as an absent one does.
 Outcome getPropStr(lua_State* L) {
   const char* name = TextArgument(L, 1);
   if (name == nullptr) return Refusal();

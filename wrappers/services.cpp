@@ -3,13 +3,13 @@
 
 namespace luavelora::wrappers {
 
-// Any value counts, by its truth.
+// Takes any value as a boolean.
 Outcome zvSetFloatBtnVisible(lua_State* L) {
   tarn::velora::zvSetFloatBtnVisible(lua_toboolean(L, 1) != 0);
   return Outcome::Results(0);
 }
 
-// A missing list is refused here, where the other list wrappers raise.
+// Unlike the other list wrappers, refuses a missing list instead of raising.
 Outcome zvSendPushNotification(lua_State* L) {
   if (!lua_isstring(L, 1) || !lua_istable(L, 2)) return Refusal();
   const char* text = TextArgument(L, 1);
@@ -19,7 +19,7 @@ Outcome zvSendPushNotification(lua_State* L) {
   return Outcome::Results(0);
 }
 
-// A fifth argument without text chooses the shorter form, as an absent one does.
+// A fifth argument that is neither a string nor a number chooses the shorter form, as an absent one does.
 Outcome zvCreateQRCode(lua_State* L) {
   using Text = Parameter<const std::string&>;
   return WithArguments<const std::string&, std::int32_t, std::int32_t, const std::string&>(

@@ -61,7 +61,7 @@ local makers = {
 }
 function value(depth) return makers[below(#makers) + 1](depth) end
 
--- Arguments that good callers give: functions are reached whatever the fuzzer has learned.
+-- Valid arguments: functions are reached whatever the fuzzer has learned.
 local good = {t = "text", i = 7, n = 1.5, b = true, l = {"a", 2.5}, h = handler}
 local patterns = {"", "t", "tt", "ttt", "ti", "tiit", "tiitt", "tn", "ttb", "tb", "i", "b", "l", "tl", "p", "pt", "pi",
   "pl", "ttttttt", "h"}

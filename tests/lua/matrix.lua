@@ -1,5 +1,5 @@
 -- The walk over the wrappers. calls() returns the number of SDK calls since the last time, and the first one's line;
--- answer(operation, value) sets what the SDK answers; `light` is a light userdata.
+-- answer(operation, value) sets what the SDK returns; `light` is a light userdata.
 local finished = velora.OrderInfo.new("x")
 velora.OrderInfo.__gc(finished)
 local selfish = {}
@@ -115,7 +115,7 @@ local function checkArgumentsOf(name, parameters)
   walk(#parameters, check)
 end
 
--- What the SDK answers, by the kind of the result; false for a string is none, and then there is no result.
+-- What the SDK returns, by the kind of the result; false for a string is none, and then there is no result.
 local answers = {b = {true, false}, i = {-7, 7}, s = {"text", "", "cut\0here", false}, x = {}}
 for _, size in ipairs{255, 256, 257, 264, 100000} do table.insert(answers.s, ("x"):rep(size)) end
 local good = {t = 1.5, i = 7, n = 1.5, b = true, l = {"a"}, s = {"a"}, o = "text", c = "text",

@@ -1,6 +1,6 @@
 -- What is set and what is read back, by accessor family.
 local long, single = ("y"):rep(5000), string.unpack("f", string.pack("f", 0.1))
-local none = {} -- stands for no result
+local none = {} -- means no result
 local roundTrips = {
   String = {{"text", "text"}, {12, "12"}, {1.5, "1.5"}, {"ab\0c", "ab"}, {nil, ""}, {"x", "x"}, {{}, ""}, {true, ""},
     {long, long}},
@@ -47,7 +47,7 @@ function checkField(field, family, readOnly)
 end
 
 -- Calls every class function that takes an object with no argument and with each of `selves`, objects of the class
--- itself left out; none may answer.
+-- itself left out; none may return a result.
 function callAll(selves)
   for name, class in pairs(velora) do
     if type(class) == "table" and class.__gc then

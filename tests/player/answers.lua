@@ -57,7 +57,7 @@ for _, row in ipairs{{"OrderInfo", order, "count"}, {"OrderInfo", order, "qrCode
   print(field, table.concat(values, " "), get(object))
 end
 
--- With false, what gives a table gives none or an empty one.
+-- With false, what returns a table returns none or an empty one.
 velora.OrderInfo.regProduct("gold.60")
 order:set_arrPriceLocaleId{"en"}
 print(velora.OrderInfo.getProductList() ~= nil, #order:get_arrPriceLocaleId())
@@ -65,7 +65,7 @@ offline.answer("OrderInfo.getProductList", false)
 offline.answer("OrderInfo.get_arrPriceLocaleId", false)
 print(velora.OrderInfo.getProductList(), #order:get_arrPriceLocaleId())
 
--- What an answer changes, it changes in its own frame, however long that takes.
+-- The effect of an answer comes in the frame of its event.
 velora.zvLogin()
 local soon = os.clock() + 0.05
 while os.clock() < soon do end

@@ -1,4 +1,4 @@
--- Played with --strict: the refused calls stand in strict.err, one line each; all others are silent.
+-- Played with --strict: the refused calls are in strict.err, one line each; all others are silent.
 local v, order, share = velora, velora.OrderInfo.new("gold.60"), velora.ShareInfo.new()
 
 -- What the arguments look like.
@@ -32,7 +32,7 @@ finished:__gc()
 finished:__gc()
 finished:get_aid()
 
--- What gives nil or nothing and is no refusal, and what raises.
+-- What returns nil or nothing and is no refusal, and what raises.
 offline.answer("getChannel", false)
 v.getChannel()
 v.getCmdLineParameter()

@@ -58,7 +58,7 @@ TEST_F(Threads, EveryEventArrivesOnceAndInItsThreadsOrder) {
   EXPECT_EQ(offline::LiveRecords(), 0u);
 }
 
-// The runtime's own thread answers while scripts run and while it is stopped and started.
+// The runtime's own thread replies while scripts run and while it is stopped and started.
 TEST_F(Threads, AnswersAndStopsMayMeet) {
   Host host;
   host.Run("answers = 0 velora.setOnLoginDone(function() answers = answers + 1 end)");
