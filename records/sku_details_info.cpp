@@ -1,4 +1,7 @@
 // `SkuDetailsInfo`: the store's description of an item.
+#include <array>
+#include <tuple>
+
 #include "records/classes.h"
 #include "records/fields.h"
 
@@ -8,12 +11,12 @@ namespace {
 using tarn::velora::SkuDetailsInfo;
 
 Outcome New(lua_State* L) {
-  constexpr int kStrings = 7;
-  const char* strings[kStrings];
-  for (int i = 0; i < kStrings; ++i)
-    if (!lua_isstring(L, i + 1)) return Refusal();
-  for (int i = 0; i < kStrings; ++i) strings[i] = TextArgument(L, i + 1);
-  return NewObject<SkuDetailsInfo>(L, [&strings] { return std::apply(SkuDetailsInfo::New, std::to_array(strings)); });
+  std::array<const char*, 7> strings;
+  for (int i = 1; i <= 7; ++i)
+    if (!lua_isstring(L, i)) return Refusal();
+  int index = 0;
+  for (const char*& string : strings) string = TextArgument(L, ++index);
+  return NewObject<SkuDetailsInfo>(L, [&strings] { return std::apply(SkuDetailsInfo::New, strings); });
 }
 
 const luaL_Reg kFunctions[] = {
