@@ -23,6 +23,7 @@ struct Calls {
   LineBuffer lines;
   std::atomic<bool> trace = false;
   std::atomic<void (*)(const char*)> hook = nullptr;
+  std::atomic<Observer*> observer = nullptr;
 
   std::mutex mutex;  // guards `answers`
   std::map<std::string, std::shared_ptr<const Answer>, std::less<>> answers;
@@ -44,18 +45,6 @@ std::shared_ptr<const Answer> FindAnswer(const char* operation) {
   std::lock_guard lock(calls.mutex);
   const auto found = calls.answers.find(std::string_view(operation));
   return found == calls.answers.end() ? nullptr : found->second;
-}
-
-template <class Values, class AppendOne>
-void AppendList(std::string& line, const Values& values, AppendOne appendOne) {
-  const char* separator = "";
-  line += '{';
-  for (const auto& value : values) {
-    line += separator;
-    appendOne(value);
-    separator = ", ";
-  }
-  line += '}';
 }
 
 // `foreign` is written for a record that this runtime did not make.
@@ -95,6 +84,12 @@ ControlPause::~ControlPause() { --pauses; }
 void RunHook(const char* operation) {
   const auto hook = TheCalls().hook.load();
   if (hook != nullptr && pauses == 0) hook(operation);
+}
+
+Observer* TheObserver() { return TheCalls().observer; }
+
+void Doubt(const char* operation, const std::string& reason) {
+  if (Observer* observer = TheObserver()) observer->OnDoubt(operation, reason);
 }
 
 void Append(std::string& line, std::string_view text) {
@@ -144,6 +139,10 @@ void Append(std::string& line, const StringMap& map) {
   });
 }
 
+void Append(std::string& line, const ByteBlock* bytes) {
+  line += bytes == nullptr ? "null" : "<" + std::to_string(bytes->size) + " bytes>";
+}
+
 void Append(std::string& line, std::span<const std::int32_t> numbers) {
   if (numbers.data() == nullptr) {
     line += "null";
@@ -184,6 +183,7 @@ std::string BeginLine(std::string_view operation) {
 void KeepLine(std::string line) {
   line += ')';
   if (TheCalls().trace) std::fprintf(stderr, "[sdk] %s\n", line.c_str());
+  if (Observer* observer = TheObserver()) observer->OnCall(line);
   TheCalls().lines.Add(std::move(line));
 }
 
@@ -228,6 +228,8 @@ std::vector<std::string> TakeCalls() { return TheCalls().lines.Take(); }
 void SetTrace(bool enabled) { TheCalls().trace = enabled; }
 
 void SetCallHook(void (*hook)(const char* operation)) { TheCalls().hook = hook; }
+
+void SetObserver(Observer* observer) { TheCalls().observer = observer; }
 
 void SetAnswer(const std::string& name, Answer answer) {
   if (!IsOperation(name)) throw std::invalid_argument("no operation is called '" + name + "'");

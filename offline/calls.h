@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "offline/control.h"
+#include "platform/event.h"
 #include "platform/types.h"
 
 namespace tarn::velora {
@@ -57,6 +58,12 @@ class ControlPause {
 // Runs the call hook, if one is set. It may throw and may call any operation, so no lock may be held here.
 void RunHook(const char* operation);
 
+// Returns the observer, or null if none is set.
+Observer* TheObserver();
+
+// Tells the observer that a real SDK would hardly accept this call.
+void Doubt(const char* operation, const std::string& reason);
+
 // An argument that is written to the call line without quotes.
 struct Verbatim {
   std::string text;
@@ -68,6 +75,7 @@ void Append(std::string& line, const char* text);
 void Append(std::string& line, double number);
 void Append(std::string& line, const StringList& list);
 void Append(std::string& line, const StringMap& map);
+void Append(std::string& line, const ByteBlock* bytes);
 void Append(std::string& line, std::span<const std::int32_t> numbers);
 void Append(std::string& line, const Verbatim& verbatim);
 void Append(std::string& line, const Record& record);
@@ -78,6 +86,19 @@ void Append(std::string& line, const std::shared_ptr<ShareInfo>& record);
 template <std::integral Number>
 void Append(std::string& line, Number number) {
   line += std::to_string(number);
+}
+
+// Appends `{one, two}`.
+template <class Values, class AppendOne>
+void AppendList(std::string& line, const Values& values, AppendOne appendOne) {
+  const char* separator = "";
+  line += '{';
+  for (const auto& value : values) {
+    line += separator;
+    appendOne(value);
+    separator = ", ";
+  }
+  line += '}';
 }
 
 inline void Append(std::string& line, bool flag) { line += flag ? "true" : "false"; }

@@ -88,8 +88,28 @@ VELORA_SDK_API std::size_t LiveRecords();
 // log library and the runtime's own calls are not. Lets tests make an operation throw or call back.
 VELORA_SDK_API void SetCallHook(void (*hook)(const char* operation));
 
+// Is told what the runtime does, on the thread that does it. The functions may call no operation.
+class Observer {
+ public:
+  virtual ~Observer() = default;
+  // A call line was kept, or a log line written.
+  virtual void OnCall(const std::string&) {}
+  virtual void OnLog(const std::string&) {}
+  // SwapEvents hands these events over.
+  virtual void OnEvents(const std::vector<std::shared_ptr<Event>>&) {}
+  // An operation was called that a real SDK would hardly accept, for that reason.
+  virtual void OnDoubt(const char* /*operation*/, const std::string& /*reason*/) {}
+};
+
+// Sets the observer, which must stay alive while it is set; null for none.
+VELORA_SDK_API void SetObserver(Observer* observer);
+
+// Returns the event's name and payload in the form of call lines, `LoginDone(0)`. An event of an unknown type is named
+// by its number.
+VELORA_SDK_API std::string EventText(const Event& event);
+
 // Forgets all state, answers, handlers, lines and undelivered events; waits for an event that is being queued. Log
-// channels, the hook and the switches are kept.
+// channels, the hook, the observer and the switches are kept.
 VELORA_SDK_API void Reset();
 
 // Stops the runtime's thread after it has queued all pending events; call it before the process ends. A later

@@ -165,6 +165,8 @@ void SwapEvents(std::vector<std::shared_ptr<Event>>& events) {
   }
   events.swap(queue.events);
   offline::NoteEvents(queue);
+  lock.unlock();
+  if (offline::Observer* observer = offline::TheObserver()) observer->OnEvents(events);
 }
 
 }  // namespace tarn::velora

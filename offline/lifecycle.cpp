@@ -21,6 +21,13 @@ void ReplyLogin(const Operation& call) {
   Reply({MakeEvent<events::LoginDone>(code)}, [code] { LockedState()->loggedIn = code == kOk; });
 }
 
+// For what needs the SDK to have started.
+Operation CallStarted(const char* operation) {
+  const Operation call = Call(operation);
+  if (!Get(&State::initialised)) Doubt(operation, "the SDK has not started");
+  return call;
+}
+
 // Whether `name` starts with `word` and no letter of the same case follows: "INT_FPS", "int_fps" and "intFps" start
 // with a word, "interval" does not.
 bool StartsWithWord(const char* name, std::string_view word) {
@@ -52,7 +59,7 @@ void zvInit() {
   Reply({MakeEvent<events::FinishInit>(code)}, [code] { LockedState()->initialised = code == kOk; });
 }
 
-void zvLogin() { ReplyLogin(Call(__func__)); }
+void zvLogin() { ReplyLogin(CallStarted(__func__)); }
 
 void zvLogout() {
   const auto code = Call(__func__).Code();
@@ -61,10 +68,10 @@ void zvLogout() {
   });
 }
 
-void zvSwitchAccount() { ReplyLogin(Call(__func__)); }
+void zvSwitchAccount() { ReplyLogin(CallStarted(__func__)); }
 
 void zvGuestBind() {
-  const auto code = Call(__func__).Code(kBindOk, kBindFailed);
+  const auto code = CallStarted(__func__).Code(kBindOk, kBindFailed);
   Reply({MakeEvent<events::LoginDone>(code)}, [code] { LockedState()->bound = code == kBindOk; });
 }
 

@@ -70,6 +70,7 @@ void Write(std::uint32_t channel, const char* level, bool isError, const char* f
       const bool red = isError && TheLog().colour;
       std::fprintf(stderr, "%s\n", red ? (start + "\033[31m" + level + "\033[0m" + rest).c_str() : line.c_str());
     }
+    if (auto* observer = velora::offline::TheObserver()) observer->OnLog(line);
     TheLog().lines.Add(std::move(line));
   } catch (const std::exception& error) {
     std::fprintf(stderr, "[?] ERROR a log line is lost: %s\n", error.what());

@@ -31,6 +31,13 @@ std::string OrderIdOf(OrderInfo& order) {
   return orderId;
 }
 
+std::string ProductIdOf(OrderInfo& order) {
+  const ControlPause pause;
+  std::string productId;
+  order.get_productId(productId);
+  return productId;
+}
+
 // Sets the order's status and, if it has none, an id. An order that passed is added to the checked orders.
 void FinishCheck(const std::shared_ptr<OrderInfo>& order, std::int32_t status) {
   if (OrderIdOf(*order).empty()) {
@@ -82,6 +89,8 @@ void zvQuerySkuDetails(const std::string& type, const StringList& productIds) {
 void zvCheckOrder(const std::shared_ptr<OrderInfo>& order) {
   const auto status = Call(__func__, order).Code(kSdkCheckOk, kSdkCheckFailed);
   if (order == nullptr) return;
+  const std::string productId = ProductIdOf(*order);
+  if (!Find(&State::products, productId)) Doubt(__func__, "the product " + Joined(productId) + " was never registered");
   Reply({MakeEvent<events::OrderCheckDone>(order)}, [order, status] { FinishCheck(order, status); });
 }
 

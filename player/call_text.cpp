@@ -116,6 +116,11 @@ const char* ClassName(lua_State* L, int index) {
   return nullptr;
 }
 
+void DescribePosition(lua_State* L, CallText& text) {
+  Line line(text);
+  AddPosition(line, L);
+}
+
 void DescribeCall(lua_State* L, const char* function, CallText& text) {
   Line line(text);
   AddPosition(line, L);

@@ -13,6 +13,9 @@ using CallText = char[2048];
 // allocates nothing in Lua and leaves the stack as it was.
 void DescribeCall(lua_State* L, const char* function, CallText& text);
 
+// Writes the position of the calling script, as in `shop.lua:12`. As DescribeCall otherwise.
+void DescribePosition(lua_State* L, CallText& text);
+
 // Returns the name of the record class of the object at `index`, or null for any other value.
 const char* ClassName(lua_State* L, int index);
 

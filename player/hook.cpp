@@ -1,6 +1,7 @@
 // The hook, and the replacements of two functions of the library `debug`.
 #include "player/hook.h"
 
+#include "player/event_pass.h"
 #include "player/interrupt.h"
 #include "player/strict.h"
 
@@ -8,13 +9,14 @@ namespace player {
 namespace {
 
 constexpr int kInterval = 10'000;  // instructions
+constexpr int kCallEvents = LUA_MASKCALL | LUA_MASKRET;
+bool isStrict = false;
 int hookMask = LUA_MASKCOUNT;
 
 void OnHook(lua_State* L, lua_Debug* event) {
-  if (event->event == LUA_HOOKCOUNT)
-    StopWhenInterrupted(L);
-  else
-    WatchCall(L, event);
+  if (event->event == LUA_HOOKCOUNT) return StopWhenInterrupted(L);
+  WatchCallbacks(L, event);
+  if (isStrict) WatchCall(L, event);
 }
 
 lua_State* ThreadArgument(lua_State* L) { return lua_isthread(L, 1) ? lua_tothread(L, 1) : L; }
@@ -56,16 +58,21 @@ void Replace(lua_State* L, const char* name, lua_CFunction function) {
 
 }  // namespace
 
-void OpenHook(lua_State* L, bool reportRefusedCalls) {
-  if (reportRefusedCalls) {
-    OpenStrict(L);
-    hookMask |= kCallEvents;
-  }
+void OpenHook(lua_State* L, bool strict) {
+  isStrict = strict;
+  hookMask = LUA_MASKCOUNT;
+  if (strict) hookMask |= kCallEvents;
   lua_getglobal(L, "debug");
   Replace(L, "sethook", SetScriptHook);
   Replace(L, "gethook", GetScriptHook);
   lua_pop(L, 1);
   lua_sethook(L, OnHook, hookMask, kInterval);
+}
+
+void HookCalls(lua_State* L, bool enabled) {
+  if (isStrict) return;
+  hookMask = enabled ? LUA_MASKCOUNT | kCallEvents : LUA_MASKCOUNT;
+  if (lua_gethook(L) == OnHook) lua_sethook(L, OnHook, hookMask, lua_gethookcount(L));
 }
 
 }  // namespace player

@@ -1,206 +1,30 @@
 // velora-play: plays a script against the module and the offline runtime, as a game would, about 60 frames a second.
-#include <algorithm>
-#include <chrono>
-#include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <exception>
-#include <filesystem>
-#include <lua.hpp>
 #include <stdexcept>
-#include <thread>
 
 #include "offline/control.h"
-#include "player/hook.h"
 #include "player/interrupt.h"
 #include "player/library.h"
-#include "player/offline_table.h"
+#include "player/observer.h"
 #include "player/options.h"
-#include "player/player_table.h"
+#include "player/run.h"
 #include "player/terminal.h"
 
 namespace player {
 namespace {
 
-constexpr int kFailed = 1;       // the script raised, or something could not be loaded
-constexpr int kOutOfFrames = 2;  // all frames passed without player.quit
 constexpr int kBadArguments = 64;
-constexpr int kInterrupted = 130;
-
-using Clock = std::chrono::steady_clock;
-constexpr Clock::duration kFrameTime = std::chrono::microseconds(16667);
-
-// The state of a run.
-struct Game {
-  Module module;
-  int argc;
-  char** argv;
-  const Options& options;
-  std::int64_t frame = 0;
-  QuitRequest quit = {};
-  bool closing = false;  // the Lua state is being closed
-};
-
-// Message handler: returns the error's text and the traceback.
-int Traceback(lua_State* L) {
-  const char* text = lua_tostring(L, 1);
-  if (text == nullptr && luaL_callmeta(L, 1, "__tostring") != 0) text = lua_tostring(L, -1);
-  if (text == nullptr) text = lua_pushfstring(L, "(error object is a %s value)", luaL_typename(L, 1));
-  luaL_traceback(L, L, text, 1);
-  return 1;
-}
-
-// Calls the script's function below its arguments. Raises its errors again, with a traceback added.
-void CallScript(lua_State* L, int arguments) {
-  const int function = lua_gettop(L) - arguments;
-  lua_pushcfunction(L, Traceback);
-  lua_insert(L, function);
-  if (lua_pcall(L, arguments, 0, function) != LUA_OK) lua_error(L);
-  lua_remove(L, function);
-}
-
-// Sets the table `arg` as the program `lua` does: the script at 0, its arguments from 1, earlier arguments below 0.
-void SetArguments(lua_State* L, const Game& game) {
-  lua_createtable(L, game.argc - game.options.script - 1, game.options.script + 1);
-  for (int i = 0; i < game.argc; ++i) {
-    lua_pushstring(L, game.argv[i]);
-    lua_rawseti(L, -2, i - game.options.script);
-  }
-  lua_setglobal(L, "arg");
-}
-
-int Collect(lua_State* L) {
-  lua_gc(L, LUA_GCCOLLECT, 0);
-  return 0;
-}
-
-// Closes the state, which runs the script's finalisers. The collection comes first because Lua 5.3 loops for ever if a
-// finaliser collects in a lua_close that interrupts a sweep.
-void Close(lua_State* L, Game& game) {
-  game.closing = true;
-  lua_pushcfunction(L, Collect);
-  lua_pcall(L, 0, 0, 0);
-  lua_close(L);
-}
-
-int FinalStatus(int status) { return Interrupted() ? kInterrupted : status; }
-
-// os.exit([status]): ends the run at once, through any pcall, but in the same order as every run.
-int Exit(lua_State* L) {
-  Game& game = *static_cast<Game*>(lua_touserdata(L, lua_upvalueindex(1)));
-  const bool isFlag = lua_isboolean(L, 1);
-  const lua_Integer status = isFlag ? (lua_toboolean(L, 1) ? 0 : 1) : luaL_optinteger(L, 1, 0);
-  if (!game.closing) {
-    game.module.deinit(L);
-    Close(L, game);
-  }
-  tarn::velora::offline::Stop();
-  std::exit(FinalStatus(static_cast<int>(status)));
-}
-
-void ReplaceExit(lua_State* L, Game& game) {
-  lua_getglobal(L, "os");
-  lua_pushlightuserdata(L, &game);
-  lua_pushcclosure(L, Exit, 1);
-  lua_setfield(L, -2, "exit");
-  lua_pop(L, 1);
-}
-
-// The steps run in protected mode, since the entry points may raise memory errors. They own nothing.
-
-Game& GameOf(lua_State* L) { return *static_cast<Game*>(lua_touserdata(L, 1)); }
-
-int Start(lua_State* L) {
-  Game& game = GameOf(L);
-  luaL_openlibs(L);
-  ReplaceExit(L, game);
-  SetArguments(L, game);
-  OpenPlayerTable(L, game.quit, IsTerminal());
-  OpenOfflineTable(L);
-  game.module.init(L);
-  OpenHook(L, game.options.strict);
-  return 0;
-}
-
-int RunScript(lua_State* L) {
-  const Game& game = GameOf(L);
-  if (luaL_loadfile(L, game.argv[game.options.script]) != LUA_OK) return lua_error(L);
-  const int arguments = game.argc - game.options.script - 1;
-  luaL_checkstack(L, arguments + 1, "too many arguments");
-  for (int i = game.options.script + 1; i < game.argc; ++i) lua_pushstring(L, game.argv[i]);
-  CallScript(L, arguments);
-  return 0;
-}
-
-int RunFrame(lua_State* L) {
-  const Game& game = GameOf(L);
-  game.module.update(L);
-  if (!PushFrameFunction(L)) return 0;
-  lua_pushinteger(L, game.frame);
-  CallScript(L, 1);
-  return 0;
-}
-
-int End(lua_State* L) {
-  GameOf(L).module.deinit(L);
-  return 0;
-}
-
-// Runs one step. If it raises, prints the error on stderr and returns false.
-bool Protected(lua_State* L, lua_CFunction step, Game& game) {
-  lua_pushcfunction(L, step);
-  lua_pushlightuserdata(L, &game);
-  if (lua_pcall(L, 1, 0, 0) == LUA_OK) return true;
-  Complain(lua_type(L, -1) == LUA_TSTRING ? lua_tostring(L, -1) : "(error without a text)");
-  lua_pop(L, 1);
-  return false;
-}
-
-int RunFrames(lua_State* L, Game& game, std::int64_t frames) {
-  Clock::time_point next = Clock::now();
-  while (!game.quit.made && !Interrupted()) {
-    if (game.frame == frames) {
-      char text[64];
-      std::snprintf(text, sizeof text, "frame %lld has passed without player.quit", static_cast<long long>(frames));
-      Complain(text);
-      return kOutOfFrames;
-    }
-    std::this_thread::sleep_until(next);
-    // After a slow frame the next one starts at once, but there is no burst to catch up.
-    next = std::max(next + kFrameTime, Clock::now());
-    ++game.frame;
-    if (!Protected(L, RunFrame, game)) return kFailed;
-  }
-  return game.quit.status;
-}
-
-int Play(lua_State* L, Game& game, std::int64_t frames) {
-  if (!Protected(L, Start, game)) return kFailed;
-  const int status = Protected(L, RunScript, game) ? RunFrames(L, game, frames) : kFailed;
-  Protected(L, End, game);
-  return status;
-}
-
-// The module outlives the Lua state, whose closing runs the module's finalisers; the runtime's thread outlives both.
-int PlayInNewState(Game& game, std::int64_t frames) {
-  lua_State* L = luaL_newstate();
-  if (L == nullptr) {
-    Complain("not enough memory for a Lua state");
-    return kFailed;
-  }
-  const int status = Play(L, game, frames);
-  Close(L, game);
-  return status;
-}
 
 int PlayGame(int argc, char** argv, const Options& options) {
   CatchInterrupt();
   tarn::velora::offline::SetTrace(options.trace);
   tarn::velora::offline::SetLogColour(HasColour());
+  OpenObserver();
   Game game{LoadModule(options.module ? *options.module : DefaultModule()), argc, argv, options};
-  const int status = PlayInNewState(game, options.frames);
+  const int status = Play(game);
   tarn::velora::offline::Stop();
-  return FinalStatus(status);
+  return status;
 }
 
 int Main(int argc, char** argv) {

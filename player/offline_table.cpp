@@ -12,6 +12,7 @@
 #include "platform/download.h"
 #include "player/arguments.h"
 #include "player/event_maker.h"
+#include "player/event_pass.h"
 
 namespace player {
 namespace {
@@ -114,6 +115,7 @@ Outcome Download(lua_State* L) {
     if (lua_gettop(L) > operation.highestArgument)
       throw ArgumentError(operation.highestArgument + 1, std::string(name) + " takes no such value");
     const DownloadArguments arguments = ReadDownloadArguments(L);
+    const HandlerCall call(name);
     for (Handler* handler : offline::Handlers()) operation.call(*handler, arguments);
     return Outcome::Results(0);
   }

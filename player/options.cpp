@@ -64,8 +64,9 @@ Plays a Lua script against the module and the offline runtime, about 60 frames a
 
   --module FILE  load this library as the module, not the one that came with the program
   --frames N     end when N frames have passed
-  --strict       say on stderr which calls the module refused for their arguments, and where they stand
-  --trace        show the SDK calls on stderr
+  --strict       report on stderr what the module passes over: refused calls, lost values, names that do not exist,
+                 events without a callback
+  --trace        show the SDK calls and the events on stderr
   --help         show this text
   --version      show the version
 
@@ -81,7 +82,7 @@ A script has two tables that it does not have in a game. `player` is this progra
   offline.log()                    the log lines since the last time
 
 The exit status is the one that the script quits with, 1 where it raises an error outside callbacks or something cannot
-be loaded, 2 when all frames have passed, 64 for a wrong command line, 130 after Ctrl-C. A second Ctrl-C ends at once.
+be loaded, 2 when all frames have passed, 3 instead of 0 if --strict has reported anything or a callback has raised, 64 for a wrong command line, 130 after Ctrl-C. A second Ctrl-C ends at once.
 )";
 
 }  // namespace player

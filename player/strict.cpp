@@ -2,13 +2,14 @@
 // not return. For functions that do not call the SDK, a table says what they take.
 #include "player/strict.h"
 
-#include <cstdio>
 #include <string_view>
 
 #include "offline/control.h"
 #include "platform/binding_helpers.h"
 #include "player/call_text.h"
-#include "player/terminal.h"
+#include "player/lost_values.h"
+#include "player/missing_names.h"
+#include "player/reports.h"
 
 namespace player {
 namespace {
@@ -65,7 +66,7 @@ struct Call {
 };
 Call call;
 
-void Report() { std::fprintf(stderr, "%s[strict]%s %s was refused\n", Yellow(), Plain(), call.text); }
+void ReportRefusal() { Report("%s was refused", call.text); }
 
 // Returns the name of the function that the event is about, or null if it is not one of the module's.
 const char* FindName(lua_State* L, lua_Debug* event) {
@@ -77,6 +78,12 @@ const char* FindName(lua_State* L, lua_Debug* event) {
   return name;
 }
 
+// Whether a call passes the argument tests that come before the values that may be lost.
+bool IsAccepted(lua_State* L, std::string_view name) {
+  if (name.find(".set_") != name.npos) return TakesObject(L, name);
+  return name != "zvSendPushNotification" || lua_isstring(L, 1) != 0;
+}
+
 void Begin(lua_State* L, lua_Debug* event) {
   const char* name = FindName(L, event);
   if (name == nullptr) return;
@@ -84,15 +91,16 @@ void Begin(lua_State* L, lua_Debug* event) {
   call.name = name;
   call.reachedSdk = false;
   DescribeCall(L, name, call.text);  // now, since the call may turn a number into a string in place
+  if (IsAccepted(L, name)) ReportLostValues(L, name, call.text);
   if (const Test test = FindTest(name)) {
-    if (!test(L, name)) Report();
+    if (!test(L, name)) ReportRefusal();
     call.name = nullptr;
   }
 }
 
 void Finish(lua_State* L, lua_Debug* event) {
   if (call.name == nullptr || call.L != L || call.name != FindName(L, event)) return;
-  if (!call.reachedSdk) Report();
+  if (!call.reachedSdk) ReportRefusal();
   call.name = nullptr;
 }
 
@@ -124,6 +132,11 @@ void OpenStrict(lua_State* L) {
   lua_pop(L, 1);
   lua_rawsetp(L, LUA_REGISTRYINDEX, &kNames);
   tarn::velora::offline::SetCallHook(OnOperation);
+  OpenMissingNames(L);
+}
+
+void ReportDoubt(const char* operation, const char* reason) {
+  Report("%s: %s", call.name != nullptr && std::string_view(call.name) == operation ? call.text : operation, reason);
 }
 
 void WatchCall(lua_State* L, lua_Debug* event) {

@@ -313,6 +313,7 @@ pages["Downloads"] = {
   example = { [[
 -- map.lua
 velora.setOnDownloadProgress(function(text) print("progress: " .. text) end)
+velora.setOnDownloadFinish(function() end) -- DownloadFinish2 tells more
 velora.setOnDownloadFinish2(function(text, bytes)
   print("end: " .. text .. (bytes and ", " .. #bytes .. " bytes" or ", no data"))
   if not bytes then player.quit() end

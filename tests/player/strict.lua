@@ -1,4 +1,4 @@
--- Played with --strict: the refused calls are in strict.err, one line each; all others are silent.
+-- Played with --strict: what is in strict.err is reported; all else is silent.
 local v, order, share = velora, velora.OrderInfo.new("gold.60"), velora.ShareInfo.new()
 
 -- What the arguments look like.
@@ -31,6 +31,33 @@ local finished = v.OrderInfo.new("gold.60")
 finished:__gc()
 finished:__gc()
 finished:get_aid()
+
+-- Accepted, but in part: elements and values that are lost.
+v.zvDeleteInviters{ "anna", {}, 7, false }
+v.zvSendPushNotification("text", { print, "ben" })
+v.zvSendPushNotification({}, { print })
+share:set_toUserList{ "anna", share }
+order:set_count("three")
+order:set_count("3")
+order:set_count(3.5)
+order:set_productCurrentPrice("cheap")
+order:set_userData({})
+order:set_userData(5)
+order:set_qrCodeOrder("yes")
+v.AccountInfo.new():set_rankScore()
+
+-- Names that do not exist.
+for _, name in ipairs{ "LOGIN_DONE_CANCELLED", "zvLogn", "zvlogin", "setOnLoginDnoe", "nothingLikeIt", 5 } do
+  assert(v[name] == nil)
+end
+pcall(function() velora.zvConsumeOrder(order) end)
+assert(rawget(v, "zvLogn") == nil)
+
+-- What a real SDK would hardly accept.
+v.zvLogin()
+v.zvCheckOrder(velora.OrderInfo.new("rope"))
+v.OrderInfo.regProduct("gold.60")
+v.zvCheckOrder(order)
 
 -- What returns nil or nothing and is no refusal, and what raises.
 offline.answer("getChannel", false)
@@ -104,9 +131,15 @@ coroutine.resume(resting)
 
 v.setOnReceiveMsgNotification(function() v.isBinded() end)
 offline.post("ReceiveMsgNotification")
+velora.setOnFinishInit(function()
+  velora.zvLogin()
+  velora.exitApp()
+end)
+velora.setOnExitApp(function() player.quit() end)
+velora.zvInit()
 v.download.setSyncDownloadHandler{ onInited = function() v.isBinded() end, onProgress = print, onFinish = print }
 player.onFrame(function(frame)
-  if frame == 2 then player.quit() end
+  if frame > 2 then return end
   offline.download("onInited")
   v.isBinded(nil)
 end)

@@ -1,4 +1,4 @@
--- How call lines show texts, containers and records, and in which order they come; run with --trace.
+-- How call lines and events show texts, containers and records, and in which order they come; run with --trace.
 velora.getPropStr("quote \" back \\ line \n bell \a zero \0 end")
 velora.setPropInt("LEVEL", 5.0) -- refused: no line
 velora.setCmdLineParameter()
@@ -16,4 +16,22 @@ tostring(order)
 velora.download.setSyncDownloadHandler{ onInited = print, onProgress = print, onFinish = print }
 offline.download("onFinish", "done", "a\0b")
 velora.download.query()
-player.quit(7)
+
+-- Each event comes before the calls of its callback. A callback may end in a tail call or under the script's own hook.
+local function none() end
+velora.setOnLoginDone(function() velora.isInit() return velora.hasLogin() end)
+velora.setOnDownloadFinish2(function()
+  debug.sethook(none, "c")
+  velora.isInit()
+end)
+velora.setOnDownloadInited(function() debug.sethook() player.quit(7) end)
+velora.setOnOrderCosumeDone(none)
+velora.setOnOrderCheckDone(function()
+  velora.setOnOrderCheckDone(none)
+  for _, event in ipairs{ { "LoginDone", -1 }, { "ShareFinished", true }, { "LoginDone", 5 },
+      { "OrderCheckDone", order }, { "OrderCosumeDone" }, { "QueryFriendListFinished", { {}, false } },
+      { "ControllerLeftStick", 0.5, 2 }, { 60 }, { "QueryInviteFriendListFinished", { "anna", "7" } },
+      { "DownloadFinish2", "a\"b", "a\0b" }, { "DownloadInited" } } do
+    offline.post(table.unpack(event))
+  end
+end)

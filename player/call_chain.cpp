@@ -1,0 +1,106 @@
+// lua_Debug::i_ci identifies a call: Lua uses one CallInfo per level of a coroutine's stack. An error that a script
+// catches removes calls without return events; those above a call are forgotten when it calls again or returns. A tail
+// call takes the level of its caller once the hook has run.
+#include "player/call_chain.h"
+
+#include <cstdio>
+#include <cstring>
+
+namespace player {
+namespace {
+
+struct Call {
+  lua_State* L;
+  const void* frame;
+  bool isTailCall;
+  char what;  // the first character of lua_Debug::what
+  int line;   // 0 if unknown
+  int lineDefined;
+  const char* nameWhat;
+  char name[64];
+  char source[LUA_IDSIZE];
+};
+
+constexpr std::size_t kMaxCalls = 100;
+Call chain[kMaxCalls];
+std::size_t length = 0;
+
+// Returns the index of the newest such call, or `length`.
+std::size_t Find(lua_State* L, const void* frame) {
+  for (std::size_t i = length; i > 0; --i)
+    if (chain[i - 1].L == L && chain[i - 1].frame == frame) return i - 1;
+  return length;
+}
+
+// Forgets the calls above the caller of the new call, and notes the caller's line.
+void ReturnTo(lua_State* L, lua_Debug& caller) {
+  const std::size_t index = Find(L, caller.i_ci);
+  if (index == length) return;
+  length = index + 1;
+  lua_getinfo(L, "l", &caller);
+  chain[index].line = caller.currentline;
+}
+
+void Add(lua_State* L, lua_Debug* event, const void* frame) {
+  if (length == kMaxCalls) return;
+  lua_getinfo(L, "nS", event);
+  Call& call = chain[length++];
+  call = {L, frame, event->event == LUA_HOOKTAILCALL, *event->what, 0, event->linedefined, event->namewhat, "", ""};
+  std::snprintf(call.name, sizeof call.name, "%s", event->name == nullptr ? "" : event->name);
+  std::snprintf(call.source, sizeof call.source, "%s", event->short_src);
+}
+
+std::string NameOf(const Call& call) {
+  const std::string name = std::string(" '") + call.name + "'";
+  if (std::strcmp(call.nameWhat, "global") == 0) return "function" + name;
+  if (*call.nameWhat != '\0') return call.nameWhat + name;
+  if (call.what == 'm') return "main chunk";
+  if (call.what == 'C') return "?";
+  return std::string("function <") + call.source + ":" + std::to_string(call.lineDefined) + ">";
+}
+
+// Returns the line in a message that begins with "SOURCE:LINE:", else 0.
+int LineIn(std::string_view message, const char* source) {
+  if (!message.starts_with(source)) return 0;
+  message.remove_prefix(std::strlen(source));
+  int line = 0;
+  char colon = '\0';
+  return std::sscanf(std::string(message).c_str(), ":%d%c", &line, &colon) == 2 && colon == ':' ? line : 0;
+}
+
+}  // namespace
+
+void FollowCall(lua_State* L, lua_Debug* event) {
+  lua_Debug caller;
+  if (event->event == LUA_HOOKRET) {
+    length = Find(L, event->i_ci);
+  } else if (lua_getstack(L, 1, &caller) == 0) {
+    Add(L, event, event->i_ci);  // a coroutine begins
+  } else if (event->event == LUA_HOOKTAILCALL) {
+    length = Find(L, caller.i_ci);
+    Add(L, event, caller.i_ci);
+  } else {
+    ReturnTo(L, caller);
+    Add(L, event, event->i_ci);
+  }
+}
+
+std::size_t ChainLength() { return length; }
+
+void ClearChain() { length = 0; }
+
+std::string ChainTraceback(std::size_t first, std::string_view message) {
+  std::string text = "stack traceback:";
+  if (length == kMaxCalls) text += "\n\t...";
+  for (std::size_t i = length; i > first; --i) {
+    const Call& call = chain[i - 1];
+    const int line = i == length && length < kMaxCalls ? LineIn(message, call.source) : call.line;
+    text += std::string("\n\t") + call.source + ":";
+    if (line > 0) text += std::to_string(line) + ":";
+    text += " in " + NameOf(call);
+    if (call.isTailCall) text += "\n\t(...tail calls...)";
+  }
+  return text;
+}
+
+}  // namespace player

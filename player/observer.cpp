@@ -1,0 +1,23 @@
+#include "player/observer.h"
+
+#include "offline/control.h"
+#include "player/event_pass.h"
+#include "player/strict.h"
+
+namespace player {
+namespace {
+
+class PlayersObserver final : public tarn::velora::offline::Observer {
+  void OnLog(const std::string& line) override { ReadLogLine(line); }
+  void OnEvents(const std::vector<std::shared_ptr<tarn::velora::Event>>& events) override { TakeEvents(events); }
+  void OnDoubt(const char* operation, const std::string& reason) override { ReportDoubt(operation, reason.c_str()); }
+};
+
+}  // namespace
+
+void OpenObserver() {
+  static PlayersObserver observer;
+  tarn::velora::offline::SetObserver(&observer);
+}
+
+}  // namespace player
