@@ -11,6 +11,7 @@
 #include "player/call_chain.h"
 #include "player/reports.h"
 #include "player/terminal.h"
+#include "player/timeline.h"
 
 namespace player {
 namespace {
@@ -86,6 +87,7 @@ void CountUnheard(const std::string& text) {
 // Shows the event, to which the module has come.
 void Show(const std::string& text, bool heard) {
   if (isTraced) std::fprintf(stderr, "[event] %s%s\n", text.c_str(), heard ? "" : ", no callback");
+  MarkPoint(Track::kEvents, heard ? text : text + ", no callback");
   if (!heard) CountUnheard(text);
 }
 
@@ -96,7 +98,8 @@ void ShowUpTo(lua_State* L, std::size_t end) {
   }
 }
 
-void EndCallback() {
+void EndCallback(std::string_view error = {}) {
+  if (pass.callback != nullptr) EndSlice(error);
   pass.callback = nullptr;
   running.clear();
 }
@@ -111,6 +114,7 @@ void BeginCallback(lua_State* L, lua_Debug* call) {
   Show(text, true);
   pass.callback = call->i_ci;
   ClearChain();
+  BeginSlice(text);
   running.push_back({"the callback of " + text, 0});
 }
 
@@ -168,7 +172,7 @@ void ReadLogLine(const std::string& line) {
   std::string text = "error in " + current.name;
   if (ChainLength() > current.firstCall) text += "\n" + ChainTraceback(current.firstCall, message);
   Complain(text.c_str());
-  if (running.size() == 1 && pass.callback != nullptr) EndCallback();
+  if (running.size() == 1 && pass.callback != nullptr) EndCallback(message);
 }
 
 void FinishEventPass() {

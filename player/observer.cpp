@@ -3,11 +3,13 @@
 #include "offline/control.h"
 #include "player/event_pass.h"
 #include "player/strict.h"
+#include "player/timeline.h"
 
 namespace player {
 namespace {
 
 class PlayersObserver final : public tarn::velora::offline::Observer {
+  void OnCall(const std::string& line) override { MarkPoint(Track::kCalls, line); }
   void OnLog(const std::string& line) override { ReadLogLine(line); }
   void OnEvents(const std::vector<std::shared_ptr<tarn::velora::Event>>& events) override { TakeEvents(events); }
   void OnDoubt(const char* operation, const std::string& reason) override { ReportDoubt(operation, reason.c_str()); }

@@ -7,7 +7,7 @@
 #include <string>
 #include <system_error>
 
-#define USAGE "usage: velora-play [--module FILE] [--frames N] [--strict] [--trace] SCRIPT [ARG...]\n"
+#define USAGE "usage: velora-play [--module FILE] [--frames N] [--strict] [--timeline FILE] [--trace] SCRIPT [ARG...]\n"
 
 namespace player {
 namespace {
@@ -36,6 +36,8 @@ Options ParseOptions(int argc, char** argv) {
       options.module = value();
     } else if (option == "--frames") {
       options.frames = ParseFrames(value());
+    } else if (option == "--timeline") {
+      options.timeline = value();
     } else if (option == "--strict") {
       options.strict = true;
     } else if (option == "--trace") {
@@ -66,6 +68,8 @@ Plays a Lua script against the module and the offline runtime, about 60 frames a
   --frames N     end when N frames have passed
   --strict       report on stderr what the module passes over: refused calls, lost values, names that do not exist,
                  events without a callback
+  --timeline FILE
+                 write the run to a file that performance tools open
   --trace        show the SDK calls and the events on stderr
   --help         show this text
   --version      show the version

@@ -14,6 +14,7 @@ struct Options {
   Task task = Task::kPlay;
   std::optional<std::filesystem::path> module;  // the library to load instead of the one beside the program
   std::int64_t frames = std::numeric_limits<std::int64_t>::max();  // the run ends after as many
+  std::optional<std::filesystem::path> timeline;                   // the file to write the run to
   bool strict = false;                                             // report refused calls
   bool trace = false;                                              // show SDK calls
   int script = 1;  // index of the script's name in argv; its arguments follow

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 #include <thread>
 
 #include "offline/control.h"
@@ -15,6 +16,7 @@
 #include "player/reports.h"
 #include "player/strict.h"
 #include "player/terminal.h"
+#include "player/timeline.h"
 
 namespace player {
 namespace {
@@ -67,6 +69,7 @@ void Close(lua_State* L, Game& game) {
 // Ends the run after its state was closed, and returns the exit status.
 int Finish(int status) {
   FinishEventPass();
+  CloseTimeline();
   if (Interrupted()) return kInterrupted;
   return status == 0 && HasReports() ? kReported : status;
 }
@@ -117,7 +120,9 @@ int RunScript(lua_State* L) {
   const int arguments = game.argc - game.options.script - 1;
   luaL_checkstack(L, arguments + 1, "too many arguments");
   for (int i = game.options.script + 1; i < game.argc; ++i) lua_pushstring(L, game.argv[i]);
+  BeginSlice(game.argv[game.options.script]);
   CallScript(L, arguments);
+  EndSlice();
   return 0;
 }
 
@@ -130,7 +135,9 @@ int RunFrame(lua_State* L) {
   EndPass(L);
   if (!PushFrameFunction(L)) return 0;
   lua_pushinteger(L, game.frame);
+  BeginSlice("player.onFrame");
   CallScript(L, 1);
+  EndSlice();
   return 0;
 }
 
@@ -162,7 +169,9 @@ int RunFrames(lua_State* L, Game& game) {
     // After a slow frame the next one starts at once, but there is no burst to catch up.
     next = std::max(next + kFrameTime, Clock::now());
     ++game.frame;
+    BeginSlice("frame " + std::to_string(game.frame));
     if (!Protected(L, RunFrame, game)) return kFailed;
+    EndSlice();
   }
   return game.quit.status;
 }
@@ -179,6 +188,7 @@ int PlayIn(lua_State* L, Game& game) {
 // The module outlives the Lua state, whose closing runs the module's finalisers; the runtime's thread outlives both.
 int Play(Game& game) {
   OpenReports(game.options.strict);
+  if (game.options.timeline) OpenTimeline(*game.options.timeline, game.argv[game.options.script]);
   lua_State* L = luaL_newstate();
   if (L == nullptr) {
     Complain("not enough memory for a Lua state");

@@ -1,0 +1,10 @@
+-- What --timeline writes of a run of one frame: calls, events with and without a callback, an error, and any bytes.
+velora.setOnQuestCompleted(function()
+  velora.setPropStr("ä\xff\"", "\1")
+  player.quit()
+end)
+velora.setOnLoginDone(function() error("late", 0) end)
+player.onFrame(function() velora.isInit() end)
+offline.post("ShareFinished", true)
+offline.post("QuestCompleted", "\xc3")
+offline.post("LoginDone", 5)
