@@ -17,8 +17,12 @@ struct Options {
   std::optional<std::filesystem::path> timeline;                   // the file to write the run to
   bool strict = false;                                             // report refused calls
   bool trace = false;                                              // show SDK calls
+  bool watch = false;                                              // play again after each change
   int script = 1;  // index of the script's name in argv; its arguments follow
 };
+
+// The name of a script that is read from standard input.
+inline constexpr const char* kStdin = "-";
 
 // Throws std::invalid_argument with a message for the user.
 Options ParseOptions(int argc, char** argv);

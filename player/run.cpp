@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <string>
 #include <thread>
 
@@ -17,6 +18,7 @@
 #include "player/strict.h"
 #include "player/terminal.h"
 #include "player/timeline.h"
+#include "player/watch.h"
 
 namespace player {
 namespace {
@@ -74,6 +76,8 @@ int Finish(int status) {
   return status == 0 && HasReports() ? kReported : status;
 }
 
+int PlayAgain(Game& game, int status);
+
 // os.exit([status]): ends the run at once, through any pcall, but in the same order as every run.
 int Exit(lua_State* L) {
   Game& game = *static_cast<Game*>(lua_touserdata(L, lua_upvalueindex(1)));
@@ -83,7 +87,7 @@ int Exit(lua_State* L) {
     game.module.deinit(L);
     Close(L, game);
   }
-  const int final = Finish(static_cast<int>(status));
+  const int final = PlayAgain(game, Finish(static_cast<int>(status)));
   tarn::velora::offline::Stop();
   std::exit(final);
 }
@@ -109,6 +113,7 @@ int Start(lua_State* L) {
   OpenOfflineTable(L);
   game.module.init(L);
   OpenEventPass(L, game.options.trace);
+  if (game.options.watch) WatchModules(L);
   if (game.options.strict) OpenStrict(L);
   OpenHook(L, game.options.strict);
   return 0;
@@ -116,11 +121,12 @@ int Start(lua_State* L) {
 
 int RunScript(lua_State* L) {
   const Game& game = GameOf(L);
-  if (luaL_loadfile(L, game.argv[game.options.script]) != LUA_OK) return lua_error(L);
+  const char* script = game.argv[game.options.script];
+  if (luaL_loadfile(L, std::strcmp(script, kStdin) == 0 ? nullptr : script) != LUA_OK) return lua_error(L);
   const int arguments = game.argc - game.options.script - 1;
   luaL_checkstack(L, arguments + 1, "too many arguments");
   for (int i = game.options.script + 1; i < game.argc; ++i) lua_pushstring(L, game.argv[i]);
-  BeginSlice(game.argv[game.options.script]);
+  BeginSlice(script);
   CallScript(L, arguments);
   EndSlice();
   return 0;
@@ -158,7 +164,7 @@ bool Protected(lua_State* L, lua_CFunction step, Game& game) {
 
 int RunFrames(lua_State* L, Game& game) {
   Clock::time_point next = Clock::now();
-  while (!game.quit.made && !Interrupted()) {
+  while (!game.quit.made && !Interrupted() && !WatchedFileChanged()) {
     if (game.frame == game.options.frames) {
       char text[64];
       std::snprintf(text, sizeof text, "frame %lld has passed without player.quit", static_cast<long long>(game.frame));
@@ -183,11 +189,13 @@ int PlayIn(lua_State* L, Game& game) {
   return status;
 }
 
-}  // namespace
-
 // The module outlives the Lua state, whose closing runs the module's finalisers; the runtime's thread outlives both.
-int Play(Game& game) {
+int PlayOnce(Game& game) {
+  game.frame = 0;
+  game.quit = {};
+  game.closing = false;
   OpenReports(game.options.strict);
+  if (game.options.watch) WatchScript(game.argv[game.options.script]);
   if (game.options.timeline) OpenTimeline(*game.options.timeline, game.argv[game.options.script]);
   lua_State* L = luaL_newstate();
   if (L == nullptr) {
@@ -198,5 +206,21 @@ int Play(Game& game) {
   Close(L, game);
   return Finish(status);
 }
+
+// After a run has ended with `status`: with --watch, plays again after each change, until Ctrl-C. Returns the last
+// run's status.
+int PlayAgain(Game& game, int status) {
+  while (game.options.watch && !Interrupted()) {
+    std::fprintf(stderr, "%s[watch]%s the run has ended with status %d\n", Yellow(), Plain(), status);
+    if (!WaitForChange()) return kInterrupted;
+    tarn::velora::offline::Reset();
+    status = PlayOnce(game);
+  }
+  return status;
+}
+
+}  // namespace
+
+int Play(Game& game) { return PlayAgain(game, PlayOnce(game)); }
 
 }  // namespace player

@@ -26,8 +26,8 @@ struct Game {
   bool closing = false;  // the Lua state is being closed
 };
 
-// Plays the script and returns the exit status. os.exit in the script does not return from here: it ends the run in the
-// same way and then the process.
+// Plays the script, with --watch again after each change, and returns the exit status. os.exit in the script does not
+// return from here: it ends the run in the same way and then the process.
 int Play(Game& game);
 
 }  // namespace player

@@ -119,6 +119,7 @@ void AddFunctions(lua_State* L, int names, const char* prefix) {
 }  // namespace
 
 void OpenStrict(lua_State* L) {
+  call.name = nullptr;
   lua_newtable(L);
   const int names = lua_gettop(L);
   lua_getglobal(L, "velora");

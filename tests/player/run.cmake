@@ -1,9 +1,13 @@
 # Plays one script and compares exit status and output with what is expected. Variables: PLAYER (a list: a program and
-# what goes with it), ARGUMENTS, STATUS (a number, or CMake's text for the signal that ends it), and where they matter
+# what goes with it), ARGUMENTS, STATUS (a number, or CMake's text for the signal that ends it), STDIN, and where they matter
 # STDOUT and STDERR, files with the expected text, and PATTERN, a regular expression for both streams. WRITTEN is a file
 # of JSON that the script writes, which is compared without its times with the file EXPECTED.
 separate_arguments(ARGUMENTS UNIX_COMMAND "${ARGUMENTS}")
-execute_process(COMMAND ${PLAYER} ${ARGUMENTS} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err
+set(input)
+if(STDIN)
+  set(input INPUT_FILE ${STDIN})
+endif()
+execute_process(COMMAND ${PLAYER} ${ARGUMENTS} ${input} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err
                 TIMEOUT 60)
 if(NOT status STREQUAL STATUS)
   message(FATAL_ERROR "exit status ${status}, not ${STATUS}\n${out}\n${err}")
