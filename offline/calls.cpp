@@ -232,7 +232,7 @@ void SetCallHook(void (*hook)(const char* operation)) { TheCalls().hook = hook; 
 void SetObserver(Observer* observer) { TheCalls().observer = observer; }
 
 void SetAnswer(const std::string& name, Answer answer) {
-  if (!IsOperation(name)) throw std::invalid_argument("no operation is called '" + name + "'");
+  if (!IsOperation(name)) throw std::invalid_argument("invalid operation '" + name + "'");
   Calls& calls = TheCalls();
   std::lock_guard lock(calls.mutex);
   if (std::holds_alternative<std::monostate>(answer)) {

@@ -16,18 +16,30 @@ constexpr double kTwoTo63 = 9223372036854775808.0;
 std::int64_t Whole(double number) {
   if (number >= -kTwoTo63 && number < kTwoTo63 && std::trunc(number) == number)
     return static_cast<std::int64_t>(number);
-  throw std::invalid_argument("needs a whole number that fits 64 bits");
+  throw std::invalid_argument("number has no integer representation");
 }
 
-const FieldScalar& ScalarOf(const FieldValue& value, const char* need) {
+// The name of the value's type in Lua.
+const char* TypeOf(const FieldValue& value) {
+  const auto* scalar = std::get_if<FieldScalar>(&value);
+  if (scalar == nullptr) return "table";
+  if (std::holds_alternative<bool>(*scalar)) return "boolean";
+  return std::holds_alternative<std::string>(*scalar) ? "string" : "number";
+}
+
+[[noreturn]] void FailType(const FieldValue& value, const char* expected) {
+  throw std::invalid_argument(std::string(expected) + " expected, got " + TypeOf(value));
+}
+
+const FieldScalar& ScalarOf(const FieldValue& value, const char* expected) {
   if (const auto* scalar = std::get_if<FieldScalar>(&value)) return *scalar;
-  throw std::invalid_argument(need);
+  FailType(value, expected);
 }
 
 template <class Number>
 void StoreNumber(const FieldValue& value, Number& field) {
-  constexpr const char* kNeed = "needs a number";
-  const FieldScalar& scalar = ScalarOf(value, kNeed);
+  constexpr const char* kExpected = "number";
+  const FieldScalar& scalar = ScalarOf(value, kExpected);
   if (const auto* flag = std::get_if<bool>(&scalar)) {
     field = static_cast<Number>(*flag ? 1 : 0);
   } else if (const auto* integer = std::get_if<std::int64_t>(&scalar)) {
@@ -39,7 +51,7 @@ void StoreNumber(const FieldValue& value, Number& field) {
       field = static_cast<Number>(*number);
     }
   } else {
-    throw std::invalid_argument(kNeed);
+    FailType(value, kExpected);
   }
 }
 
@@ -56,7 +68,7 @@ void StoreElement(const std::string& key, const FieldScalar& value, Element& ele
   try {
     Store(value, element);
   } catch (const std::invalid_argument& error) {
-    throw std::invalid_argument("at '" + key + "' " + error.what());
+    throw std::invalid_argument("key '" + key + "': " + error.what());
   }
 }
 
@@ -71,7 +83,7 @@ void StoreMap(const FieldValue& value, Map& field) {
       StoreElement(key, element, filled[key]);
     }
   } else {
-    throw std::invalid_argument("needs a table");
+    FailType(value, "table");
   }
   field = std::move(filled);
 }
@@ -79,7 +91,7 @@ void StoreMap(const FieldValue& value, Map& field) {
 }  // namespace
 
 void Store(const FieldValue& value, std::string& field) {
-  const FieldScalar& scalar = ScalarOf(value, "needs a text");
+  const FieldScalar& scalar = ScalarOf(value, "string");
   if (const auto* text = std::get_if<std::string>(&scalar)) {
     field = *text;
   } else if (const auto* flag = std::get_if<bool>(&scalar)) {
@@ -116,7 +128,7 @@ void Store(const FieldValue& value, StringList& field) {
     for (const FieldScalar& element : *list)
       StoreElement(std::to_string(filled.size() + 1), element, filled.emplace_back());
   } else if (const auto* map = std::get_if<FieldMap>(&value); map == nullptr || !map->empty()) {
-    throw std::invalid_argument("needs a list");
+    FailType(value, "list");
   }
   field = std::move(filled);
 }

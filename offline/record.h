@@ -94,7 +94,6 @@ class Record {
 template <class Derived>
 void Fill(Derived& record, const Fields& fields) {
   for (const auto& [name, value] : fields) {
-    const std::string label = std::string(record.RecordClass()) + "'s field '" + name + "'";
     bool found = false;
     Derived::EachField(record, [&, &fieldName = name, &fieldValue = value](std::string_view candidate, auto& field) {
       if (candidate != fieldName) return;
@@ -102,10 +101,10 @@ void Fill(Derived& record, const Fields& fields) {
       try {
         Store(fieldValue, field);
       } catch (const std::invalid_argument& error) {
-        throw std::invalid_argument(label + " " + error.what());
+        throw std::invalid_argument(std::string(record.RecordClass()) + " field '" + fieldName + "': " + error.what());
       }
     });
-    if (!found) throw std::invalid_argument(label + " does not exist");
+    if (!found) throw std::invalid_argument(std::string(record.RecordClass()) + " has no field '" + name + "'");
   }
 }
 

@@ -5,7 +5,7 @@ namespace player {
 std::string Mismatch(lua_State* L, int index, const char* expected) {
   const int type = lua_type(L, index);
   if (type == LUA_TNUMBER && std::string_view(expected) == "integer") return "number has no integer representation";
-  return std::string(expected) + " expected, got " + lua_typename(L, type);
+  return std::string(expected) + " expected, got " + (type == LUA_TNONE ? "no value" : lua_typename(L, type));
 }
 
 std::string_view CheckText(lua_State* L, int index) {

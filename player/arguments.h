@@ -2,6 +2,8 @@
 // arguments. The checks throw ArgumentError and make no Lua call that can raise.
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <lua.hpp>
 #include <stdexcept>
@@ -22,9 +24,17 @@ class ArgumentError : public std::invalid_argument {
   int argument_;
 };
 
-// The lua_CFunction around a body, as luavelora::Entry is in the module. An ArgumentError becomes Lua's own "bad
-// argument" error, which names the argument and the function.
-template <luavelora::Outcome (*body)(lua_State*)>
+// A function's name, as a template argument.
+template <std::size_t size>
+struct Name {
+  constexpr Name(const char (&source)[size]) { std::copy_n(source, size, text); }
+  char text[size];
+};
+
+// The lua_CFunction around a body, as luavelora::Entry is in the module. An ArgumentError becomes an error in the form
+// of Lua's own, "bad argument #1 to 'post' (string expected, got nil)". The name is always known, unlike in Lua, which
+// takes it from the call.
+template <Name name, luavelora::Outcome (*body)(lua_State*)>
 int Checked(lua_State* L) {
   int argument = 0;
   char reason[512];
@@ -38,9 +48,15 @@ int Checked(lua_State* L) {
       return luavelora::Outcome::Error(reason);
     }
   });
-  if (argument != 0) return luaL_argerror(L, argument, reason);
+  if (argument != 0) return luaL_error(L, "bad argument #%d to '%s' (%s)", argument, name.text, reason);
   if (outcome.Failed()) luavelora::Raise(L, outcome);
   return outcome.results();
+}
+
+// The row of such a function in a registration list.
+template <Name name, luavelora::Outcome (*body)(lua_State*)>
+constexpr luaL_Reg Row() {
+  return {name.text, Checked<name, body>};
 }
 
 // Returns "TYPE expected, got TYPE" for the value at `index`.

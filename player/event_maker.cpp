@@ -14,6 +14,7 @@
 #include "platform/binding_helpers.h"
 #include "platform/record_classes.h"
 #include "player/arguments.h"
+#include "player/suggest.h"
 #include "records/holder.h"
 
 namespace player {
@@ -64,7 +65,8 @@ void Read(const Value& value, std::uint8_t& field) {
   if (TypeOf(value) != LUA_TNUMBER) FailType(value, "boolean or integer");
   lua_Integer integer = 0;
   Read(value, integer);
-  if (integer < 0 || integer > std::numeric_limits<std::uint8_t>::max()) Fail(value, "a flag byte lies in 0 to 255");
+  if (integer < 0 || integer > std::numeric_limits<std::uint8_t>::max())
+    Fail(value, "integer from 0 to 255 expected, got " + std::to_string(integer));
   field = static_cast<std::uint8_t>(integer);
 }
 
@@ -92,7 +94,7 @@ template <class Element>
 void Read(const Value& value, std::vector<Element>& field) {
   if (TypeOf(value) != LUA_TTABLE) FailType(value, "table");
   const std::size_t length = lua_rawlen(value.L, value.index);
-  if (length > kMaxLength) Fail(value, "a list of at most " + std::to_string(kMaxLength) + " elements expected");
+  if (length > kMaxLength) Fail(value, "list of at most " + std::to_string(kMaxLength) + " elements expected");
   for (std::size_t i = 1; i <= length; ++i) {
     lua_rawgeti(value.L, value.index, static_cast<lua_Integer>(i));
     Read(PartOnTop(value, "element " + std::to_string(i)), field.emplace_back());
@@ -105,7 +107,8 @@ template <class Visitor>
 void ForEachPair(const Value& table, Visitor visit) {
   lua_pushnil(table.L);
   while (lua_next(table.L, table.index) != 0) {
-    if (lua_type(table.L, -2) != LUA_TSTRING) Fail(table, "a table with string keys expected");
+    if (lua_type(table.L, -2) != LUA_TSTRING)
+      Fail(table, "table with string keys expected, got " + std::string(luaL_typename(table.L, -2)) + " as a key");
     const std::string key = lua_tostring(table.L, -2);
     visit(key, PartOnTop(table, "field '" + key + "'"));
     lua_pop(table.L, 1);
@@ -184,7 +187,7 @@ void Read(const Value& value, std::shared_ptr<Record>& field) {
     field = MakeRecord<Record>(value);
   } else if (CheckMetaTableInUserType(value.L, value.index, ClassNames<Record>::kMetatable)) {
     const auto* holder = luavelora::HolderIn<Record>(lua_touserdata(value.L, value.index));
-    if (holder == nullptr) Fail(value, "the object is finished: its __gc was called");
+    if (holder == nullptr) Fail(value, ClassNames<Record>::kName + std::string(" expected, got a finished object"));
     field = holder->record;
   } else {
     FailType(value, ClassNames<Record>::kName + std::string(", table of its fields or nil"));
@@ -204,7 +207,7 @@ class Payload {
 
   // A value too many is a mistake in the script.
   void CheckEnd() const {
-    if (next_ <= lua_gettop(L_)) throw ArgumentError(next_, "the event carries no such value");
+    if (next_ <= lua_gettop(L_)) throw ArgumentError(next_, Mismatch(L_, next_, "no value"));
   }
 
  private:
@@ -256,15 +259,20 @@ constexpr EventRow kEvents[] = {
 EventRow FindRow(lua_State* L, int index) {
   if (lua_type(L, index) == LUA_TSTRING) {
     const std::string_view name = CheckText(L, index);
-    for (const EventRow& row : kEvents)
+    Suggestion suggestion(name);
+    for (const EventRow& row : kEvents) {
       if (row.name == name) return row;
-    throw ArgumentError(index, "no event is called '" + std::string(name) +
-                                   "'; the names are those of the callbacks, as LoginDone of setOnLoginDone");
+      suggestion.Consider(row.name);
+    }
+    const std::string similar(suggestion.Best());
+    throw ArgumentError(index, "invalid event '" + std::string(name) + "'" +
+                                   (similar.empty() ? "" : "; did you mean " + similar + "?"));
   }
   if (lua_type(L, index) != LUA_TNUMBER) throw ArgumentError(index, Mismatch(L, index, "event name or number"));
   const lua_Integer number = CheckInteger(L, index);
   using Limits = std::numeric_limits<std::int32_t>;
-  if (number < Limits::min() || number > Limits::max()) throw ArgumentError(index, "an event number has 32 bits");
+  if (number < Limits::min() || number > Limits::max())
+    throw ArgumentError(index, "32-bit integer expected, got " + std::to_string(number));
   for (const EventRow& row : kEvents)
     if (row.type == number) return row;
   return {static_cast<std::int32_t>(number), {}, Make<PlainEvent>};

@@ -87,7 +87,7 @@ DownloadArguments ReadDownloadArguments(lua_State* L) {
   const lua_Integer count = lua_isnoneornil(L, 4) ? length : CheckInteger(L, 4);
   // Without bytes any count will do, as nothing is read from a null pointer.
   if (count < 0 || (arguments.bytes != nullptr && count > length))
-    throw ArgumentError(4, "count must lie between 0 and the number of bytes given");
+    throw ArgumentError(4, "integer from 0 to " + std::to_string(length) + " expected, got " + std::to_string(count));
   arguments.count = static_cast<std::uint64_t>(count);
   return arguments;
 }
@@ -113,17 +113,17 @@ Outcome Download(lua_State* L) {
   for (const DownloadOperation& operation : kDownloadOperations) {
     if (operation.name != name) continue;
     if (lua_gettop(L) > operation.highestArgument)
-      throw ArgumentError(operation.highestArgument + 1, std::string(name) + " takes no such value");
+      throw ArgumentError(operation.highestArgument + 1, Mismatch(L, operation.highestArgument + 1, "no value"));
     const DownloadArguments arguments = ReadDownloadArguments(L);
     const HandlerCall call(name);
     for (Handler* handler : offline::Handlers()) operation.call(*handler, arguments);
     return Outcome::Results(0);
   }
-  throw ArgumentError(1, "onInited, onProgress or onFinish expected, got '" + std::string(name) + "'");
+  throw ArgumentError(1, "invalid operation '" + std::string(name) + "'");
 }
 
-constexpr luaL_Reg kFunctions[] = {{"calls", Checked<Calls>}, {"answer", Checked<Answer>},     {"post", Checked<Post>},
-                                   {"log", Checked<Log>},     {"download", Checked<Download>}, {nullptr, nullptr}};
+constexpr luaL_Reg kFunctions[] = {Row<"calls", Calls>(), Row<"answer", Answer>(),     Row<"post", Post>(),
+                                   Row<"log", Log>(),     Row<"download", Download>(), {nullptr, nullptr}};
 
 }  // namespace
 

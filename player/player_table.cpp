@@ -1,44 +1,56 @@
-// Nothing here owns anything, so Lua's own argument checks will do.
 #include "player/player_table.h"
+
+#include <string>
 
 #include "player/arguments.h"
 
 namespace player {
 namespace {
 
-constexpr const char* kFrameFunction = "velora-play.onFrame";
+using luavelora::Outcome;
+
+// Its address is the registry key of the function given to player.onFrame; there is an entry from the start.
+constexpr char kFrameFunction = 0;
 constexpr lua_Integer kHighestStatus = 255;
 
 int ReadStatus(lua_State* L, int index) {
   if (lua_isnoneornil(L, index)) return 0;
   if (lua_isboolean(L, index)) return lua_toboolean(L, index) ? 0 : 1;
   lua_Integer status = 0;
-  luaL_argcheck(L, ToInteger(L, index, status) && status >= 0 && status <= kHighestStatus, index,
-                "an exit status is an integer from 0 to 255, true or false");
+  const std::string expected = "integer from 0 to " + std::to_string(kHighestStatus) + " or boolean";
+  if (!ToInteger(L, index, status)) throw ArgumentError(index, Mismatch(L, index, expected.c_str()));
+  if (status < 0 || status > kHighestStatus)
+    throw ArgumentError(index, expected + " expected, got " + std::to_string(status));
   return static_cast<int>(status);
 }
 
 // player.quit([status]): ends the run after this frame.
-int Quit(lua_State* L) {
+Outcome Quit(lua_State* L) {
   QuitRequest& request = *static_cast<QuitRequest*>(lua_touserdata(L, lua_upvalueindex(1)));
   request.status = ReadStatus(L, 1);
   request.made = true;
-  return 0;
+  return Outcome::Results(0);
 }
 
 // player.onFrame(f): calls f(frame) after each frame's update; nil ends that.
-int OnFrame(lua_State* L) {
-  if (!lua_isnil(L, 1)) luaL_checktype(L, 1, LUA_TFUNCTION);
+Outcome OnFrame(lua_State* L) {
+  if (!lua_isnil(L, 1) && !lua_isfunction(L, 1)) throw ArgumentError(1, Mismatch(L, 1, "function or nil"));
   lua_settop(L, 1);
-  lua_setfield(L, LUA_REGISTRYINDEX, kFrameFunction);
-  return 0;
+  if (lua_isnil(L, 1)) {
+    lua_pushboolean(L, 0);
+    lua_replace(L, 1);
+  }
+  lua_rawsetp(L, LUA_REGISTRYINDEX, &kFrameFunction);
+  return Outcome::Results(0);
 }
 
-constexpr luaL_Reg kFunctions[] = {{"quit", Quit}, {"onFrame", OnFrame}, {nullptr, nullptr}};
+constexpr luaL_Reg kFunctions[] = {Row<"quit", Quit>(), Row<"onFrame", OnFrame>(), {nullptr, nullptr}};
 
 }  // namespace
 
 void OpenPlayerTable(lua_State* L, QuitRequest& request, bool terminal) {
+  lua_pushboolean(L, 0);
+  lua_rawsetp(L, LUA_REGISTRYINDEX, &kFrameFunction);
   luaL_newlibtable(L, kFunctions);
   lua_pushlightuserdata(L, &request);
   luaL_setfuncs(L, kFunctions, 1);
@@ -48,7 +60,7 @@ void OpenPlayerTable(lua_State* L, QuitRequest& request, bool terminal) {
 }
 
 bool PushFrameFunction(lua_State* L) {
-  if (lua_getfield(L, LUA_REGISTRYINDEX, kFrameFunction) == LUA_TFUNCTION) return true;
+  if (lua_rawgetp(L, LUA_REGISTRYINDEX, &kFrameFunction) == LUA_TFUNCTION) return true;
   lua_pop(L, 1);
   return false;
 }

@@ -7,8 +7,12 @@ offline.post(60)
 local gaps = {}
 for k = 0, 40 do gaps[#gaps + 1] = "[" .. (1 << k) .. "] = false" end
 gaps = load("return {" .. table.concat(gaps, ", ") .. "}")() -- claims a length of 2^40
-for _, bad in ipairs{ { "QueryFriendListFinished", gaps }, { "NoSuchEvent" }, { "LoginDone", "text" }, { "LoginDone", 1, 2 },
+for _, bad in ipairs{ { "QueryFriendListFinished", gaps }, { "NoSuchEvent" }, { "LoginDon" }, {}, { "LoginDone", "text" }, { "LoginDone", 1, 2 },
     { "OrderCheckDone", { nothing = 1 } }, { "OrderCheckDone", velora.ShareInfo.new() } } do
   print(select(2, pcall(function() offline.post(table.unpack(bad)) end)))
+end
+for _, bad in ipairs{ { player.quit, 256 }, { player.quit, "1" }, { player.onFrame, 1 }, { offline.download, "onEnd" },
+    { offline.download, "onInited", 1 }, { offline.download, "onFinish", "a", "b", 2 }, { offline.answer, nil } } do
+  print(select(2, pcall(table.unpack(bad, 1, 5))))
 end
 player.onFrame(function() player.quit() end)
