@@ -18,7 +18,7 @@ unsigned ReplaceCost(char a, char b) {
 
 // The cost of the edits that make `b` of `a`: a character inserted, removed, replaced or swapped with the next.
 unsigned Distance(std::string_view a, std::string_view b) {
-  unsigned rows[3][kLongest + 1];  // the last three rows of the table, by turns
+  unsigned rows[3][kLongest + 1] = {};  // the last three rows of the table, by turns
   for (unsigned j = 0; j <= b.size(); ++j) rows[0][j] = j * kEdit;
   for (std::size_t i = 1; i <= a.size(); ++i) {
     unsigned* row = rows[i % 3];

@@ -3,7 +3,7 @@
 -- # velora-play
 -- The player provides two more tables to its scripts: `player`, to end the run and to follow its frames, and `offline`,
 -- to observe and control the offline runtime that replaces the SDK. They do not exist in a game. Wrong arguments raise
--- an error.
+-- an error. `velora-play --help` lists the options and the exit statuses.
 
 -- ## The run
 
