@@ -3,6 +3,7 @@
 // call takes the level of its caller once the hook has run.
 #include "player/call_chain.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 
@@ -12,13 +13,9 @@ namespace {
 struct Call {
   lua_State* L;
   const void* frame;
-  bool isTailCall;
-  char what;  // the first character of lua_Debug::what
-  int line;   // 0 if unknown
-  int lineDefined;
-  const char* nameWhat;
-  char name[64];
-  char source[LUA_IDSIZE];
+  int line;  // 0 if unknown
+  lua_Debug info;
+  char name[64];  // a copy, since that of `info` may have been collected when the error is logged
 };
 
 constexpr std::size_t kMaxCalls = 100;
@@ -45,18 +42,23 @@ void Add(lua_State* L, lua_Debug* event, const void* frame) {
   if (length == kMaxCalls) return;
   lua_getinfo(L, "nS", event);
   Call& call = chain[length++];
-  call = {L, frame, event->event == LUA_HOOKTAILCALL, *event->what, 0, event->linedefined, event->namewhat, "", ""};
-  std::snprintf(call.name, sizeof call.name, "%s", event->name == nullptr ? "" : event->name);
-  std::snprintf(call.source, sizeof call.source, "%s", event->short_src);
+  call.L = L;
+  call.frame = frame;
+  call.line = 0;
+  call.info = *event;
+  const std::size_t size = event->name == nullptr ? 0 : std::min(std::strlen(event->name), sizeof call.name - 1);
+  std::copy_n(event->name, size, call.name);
+  call.name[size] = '\0';
 }
 
 std::string NameOf(const Call& call) {
+  const lua_Debug& info = call.info;
   const std::string name = std::string(" '") + call.name + "'";
-  if (std::strcmp(call.nameWhat, "global") == 0) return "function" + name;
-  if (*call.nameWhat != '\0') return call.nameWhat + name;
-  if (call.what == 'm') return "main chunk";
-  if (call.what == 'C') return "?";
-  return std::string("function <") + call.source + ":" + std::to_string(call.lineDefined) + ">";
+  if (std::strcmp(info.namewhat, "global") == 0) return "function" + name;
+  if (*info.namewhat != '\0') return info.namewhat + name;
+  if (*info.what == 'm') return "main chunk";
+  if (*info.what == 'C') return "?";
+  return std::string("function <") + info.short_src + ":" + std::to_string(info.linedefined) + ">";
 }
 
 // Returns the line in a message that begins with "SOURCE:LINE:", else 0.
@@ -94,11 +96,11 @@ std::string ChainTraceback(std::size_t first, std::string_view message) {
   if (length == kMaxCalls) text += "\n\t...";
   for (std::size_t i = length; i > first; --i) {
     const Call& call = chain[i - 1];
-    const int line = i == length && length < kMaxCalls ? LineIn(message, call.source) : call.line;
-    text += std::string("\n\t") + call.source + ":";
+    const int line = i == length && length < kMaxCalls ? LineIn(message, call.info.short_src) : call.line;
+    text += std::string("\n\t") + call.info.short_src + ":";
     if (line > 0) text += std::to_string(line) + ":";
     text += " in " + NameOf(call);
-    if (call.isTailCall) text += "\n\t(...tail calls...)";
+    if (call.info.event == LUA_HOOKTAILCALL) text += "\n\t(...tail calls...)";
   }
   return text;
 }
