@@ -55,6 +55,11 @@ package: ## pack what a host needs, for Linux and for 64-bit Windows, into build
 	cpack --preset windows
 	rm -rf $(BUILD)/package/_CPack_Packages
 
+.PHONY: site
+site: ## write the documents as web pages that need no server into build/site
+	tools/setup site
+	mkdocs build --strict --quiet
+
 .PHONY: threads
 threads: ## run the thread tests under the thread sanitizer
 	tools/setup test
