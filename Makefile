@@ -47,6 +47,7 @@ visual-cpp: ## build for Visual C++'s ABI with Clang and run every test under Wi
 package: ## pack what a host needs, for Linux and for 64-bit Windows, into build/package
 	tools/setup package
 	rm -rf $(BUILD)/package
+	$(MAKE) site
 	cmake --preset release
 	cmake --build --preset release
 	cpack --preset release

@@ -3,7 +3,7 @@
 #   lib/                  the libraries to load (Linux) or to link with (Windows), and the CMake package
 #   include/LuaVelora/    module/lua_velora.h, platform/
 #   include/lua5.3/       Lua's headers, on Windows
-#   share/LuaVelora/      README.md, docs/, examples/, types/; on Windows licences/
+#   share/LuaVelora/      README.md, docs/, examples/, types/, site/; on Windows licences/
 include(CMakePackageConfigHelpers)
 set(package lib/cmake/LuaVelora)
 
@@ -31,6 +31,8 @@ install(FILES module/lua_velora.h DESTINATION include/LuaVelora/module)
 install(DIRECTORY platform DESTINATION include/LuaVelora)
 install(DIRECTORY docs examples types DESTINATION share/LuaVelora)
 install(FILES README.md DESTINATION share/LuaVelora)
+# The documents as web pages, if `make site` has written them.
+install(DIRECTORY build/site DESTINATION share/LuaVelora OPTIONAL)
 if(WIN32)
   install(FILES ${VELORA_LUA_HEADERS} DESTINATION include/lua5.3)
 endif()
