@@ -14,7 +14,7 @@ demo: ## build, and play examples/tour.lua against the offline runtime
 	$(BUILD)/release/bin/velora-play examples/tour.lua
 
 .PHONY: test
-test: ## build and run every test: on Linux, as Windows programs under Wine, packages, threads, a short fuzz run
+test: ## build and run every test: on Linux, as Windows programs under Wine, packages, site, threads, a short fuzz run
 	tools/setup test
 	cmake --preset sanitize
 	cmake --build --preset sanitize
@@ -25,6 +25,8 @@ test: ## build and run every test: on Linux, as Windows programs under Wine, pac
 	$(MAKE) package
 	tests/package/check $(BUILD)/package/*.tar.gz $(BUILD)/release
 	tools/wine_run tests/package/check $(BUILD)/package/*.zip $(BUILD)/windows
+	tools/setup browser
+	tests/site/check $(BUILD)/site
 	$(MAKE) threads
 	$(MAKE) fuzz SECONDS=15
 
