@@ -9,7 +9,7 @@ from markdown.extensions import Extension
 from mkdocs.structure.files import File, Files
 
 ROOT = Path(__file__).parents[2]
-LANGUAGES = {".lua": "lua", ".c": "c", ".cpp": "cpp", ".txt": "cmake"}
+LANGUAGES = {".lua": "lua", ".c": "c", ".cpp": "cpp", ".txt": "cmake", ".sh": "bash", ".yml": "yaml"}
 
 names = []  # entries of the search
 

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Plays every test. Usage: run_tests [PLAYER]
+# Plays every test. Usage: run_tests.sh [PLAYER]
 # Fails if a test fails, if a callback raises an error, or if --strict has something to report.
 cd "$(dirname "$0")" || exit 1
 player=${1:-velora-play}
