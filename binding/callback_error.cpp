@@ -1,4 +1,4 @@
-// Logging what a callback raised, whatever it raised.
+// Logs errors raised by callbacks.
 #include "binding/callback_error.h"
 
 #include <cstdio>

@@ -5,8 +5,8 @@
 
 namespace luavelora {
 
-// Logs the error value on top of the stack, which stays there. Allocates nothing in Lua; an error value without text
-// is named by its type.
+// Logs the error value on top of the stack, which stays there. Allocates nothing in Lua; a non-string error value
+// is described by its type.
 void LogCallbackError(lua_State* L);
 
 }  // namespace luavelora

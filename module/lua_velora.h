@@ -1,6 +1,6 @@
 // The module's three entry points. Call each on the thread that owns the Lua state, with its main state, not a
-// coroutine; each leaves the Lua stack as it found it. None reports a failure of its own. No C++ exception leaves them:
-// where memory runs out or the SDK throws, a Lua error does, and so does a finaliser's error that comes up in
+// coroutine; each leaves the Lua stack as it found it. They have no error result. No C++ exception escapes; out of
+// memory and SDK exceptions become Lua errors, and an error of a `__newindex` on the globals table leaves
 // InitLuaVelora.
 #pragma once
 

@@ -1,6 +1,6 @@
-// The values of the SDK's constants. A text is the script's own name for it in lower case ("velora.app_key"), so that
-// a call line shows which constant was meant and a script that writes the value out by hand shows too; numbers count
-// through the list. Every value is met once.
+// The values of the SDK's constants. A string is the script's name for it in lower case ("velora.app_key"), so that
+// call logs show which constant was passed and hard-coded values are visible; numbers count through the list. No value
+// occurs twice.
 #include <cstdint>
 #include <string>
 #include <string_view>

@@ -38,7 +38,7 @@ struct Queue {
   std::thread thread;
 };
 
-// Never destroyed: the thread may outlive the process's statics where nobody called Stop.
+// Never destroyed: the thread may outlive the process's statics if nobody called Stop.
 Queue& TheQueue() {
   static Queue& queue = *new Queue;
   return queue;

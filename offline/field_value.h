@@ -9,9 +9,9 @@
 
 namespace tarn::velora::offline {
 
-// Each throws std::invalid_argument, and leaves the field as it is, where the value does not fit the type: a number
-// field takes numbers and booleans, an integer field whole ones only, a text field whatever reads as text, numbers in
-// the form that Lua uses. A container field takes the containers that convert to it without loss (a list becomes
+// Each throws std::invalid_argument, and leaves the field as it is, if the value does not fit the type: a number field
+// takes numbers and booleans, an integer field whole ones only, a string field any scalar, numbers in the form that Lua
+// uses. A container field takes the containers that convert to it without loss (a list becomes
 // a map by its positions, counted from 1), each element as a field of the element's type would.
 void Store(const FieldValue& value, std::string& field);
 void Store(const FieldValue& value, std::int32_t& field);  // the low 32 bits

@@ -1,4 +1,4 @@
-// JSON texts. Bytes from 0x80 on are taken to be UTF-8 already.
+// JSON strings. Bytes from 0x80 on are taken to be UTF-8 already.
 #include "offline/json.h"
 
 #include <charconv>
@@ -9,7 +9,7 @@
 namespace tarn::velora::offline {
 namespace {
 
-// The shortest text that reads back as the same number: 0.99, not 0.99000000953674. JSON knows no infinity.
+// The shortest string that reads back as the same number: 0.99, not 0.99000000953674. JSON knows no infinity.
 template <class Number>
 void AppendNumber(std::string& json, Number number) {
   char text[32];

@@ -1,4 +1,4 @@
-// The text forms of records: JSON objects of the fields that are not as they were born.
+// The string forms of records: JSON objects of the fields that differ from their defaults.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// The text form of products.
+// The string form of products.
 #include "platform/product_info.h"
 
 #include "offline/calls.h"

@@ -1,4 +1,4 @@
-// What the runtime's records have in common: fields that any thread may read and write, filling by name, text forms.
+// What the runtime's records have in common: fields that any thread may read and write, filling by name, string forms.
 // record_fields.inc makes a class's members and accessors from its .def file.
 #pragma once
 
@@ -31,7 +31,7 @@ class Record {
   const char* RecordClass() const { return recordClass_; }
   const std::string& MadeWith() const { return madeWith_; }
 
-  // The fields of the record, which is `self`, that are not as they were born.
+  // Returns the fields of the record, which is `self`, that differ from their defaults, as JSON.
   template <class Derived>
   std::string Json(const Derived& self) const {
     JsonObject object;

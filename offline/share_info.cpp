@@ -28,7 +28,7 @@ std::shared_ptr<ShareInfo> MakeShare(std::string madeWith) {
 }  // namespace
 
 void SetNewShare(const Fields& fields) {
-  MakeFilled<ShareRequest>(fields);  // throws where they do not fit
+  MakeFilled<ShareRequest>(fields);  // throws if they do not fit
   LockedState()->newShare = fields;
 }
 

@@ -1,4 +1,4 @@
-// The runtime's store items. The factory's seven texts fill the fields in row order.
+// The runtime's store items. The factory's strings fill the fields in row order.
 #include "platform/sku_details_info.h"
 
 #include "offline/record.h"

@@ -18,7 +18,7 @@ void* FromUserType(lua_State* L, std::int32_t index);
 bool CheckMetaTableInUserType(lua_State* L, std::int32_t index, const char* name);
 
 // Registers a metatable under `name`, made from the class table on top of the stack, and leaves the stack as it
-// is. Objects answer method calls through the class table; scripts can neither fetch nor change the metatable.
+// is. Methods of objects are looked up in the class table; scripts can neither fetch nor change the metatable.
 // Registering a name again keeps the metatable, so that older objects stay valid, and leads it to the new table.
 void InitUserTypeMetaTable(lua_State* L, const char* name);
 

@@ -1,6 +1,7 @@
 // The SDK's operations. All are called on the thread of Lua and return at once; what takes longer is answered by an
 // event. References and pointers are valid during the call only; a shared reference may be copied and kept.
-// An operation that fills `out` reports whether there is a text. What an operation throws derives from std::exception.
+// An operation that fills `out` returns whether there is a string. What an operation throws derives from
+// std::exception.
 #pragma once
 
 #include <cstddef>

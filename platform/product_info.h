@@ -33,7 +33,7 @@ static_assert(offsetof(ProductInfo, productName) == 32 && offsetof(ProductInfo, 
 static_assert(sizeof(StringMap) == 64 && sizeof(IntMap) == 64);
 #endif
 
-// Fills `out` with a text form of `product` and reports success.
+// Fills `out` with a string form of `product` and returns true on success.
 VELORA_SDK_API bool toString(const ProductInfo& product, std::string& out);
 
 }  // namespace tarn::velora

@@ -22,7 +22,7 @@ namespace {
 
 using namespace tarn::velora;
 
-// A value on the Lua stack, the argument that it belongs to, and what to call it in an error text.
+// A value on the Lua stack, the argument that it belongs to, and what to call it in an error message.
 struct Value {
   lua_State* L;
   int index;
@@ -135,7 +135,7 @@ void Read(const Value& value, offline::FieldScalar& field) {
   }
 }
 
-// A table is a list where it has a first element, else a map.
+// A table with a first element is a list, any other a map.
 offline::FieldValue ReadFieldValue(const Value& value) {
   if (TypeOf(value) != LUA_TTABLE) {
     offline::FieldScalar scalar;
@@ -255,7 +255,7 @@ constexpr EventRow kEvents[] = {
 #include "platform/events.def"
 };
 
-// The row of an event by name, where the argument is a string, or of the event of that type.
+// Returns the row of the event with that name if the argument is a string, else with that type.
 EventRow FindRow(lua_State* L, int index) {
   if (lua_type(L, index) == LUA_TSTRING) {
     const std::string_view name = CheckText(L, index);

@@ -26,7 +26,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 constexpr Clock::duration kFrameTime = std::chrono::microseconds(16667);
 
-// Message handler: returns the error's text and the traceback.
+// Message handler: returns the error message with a traceback.
 int Traceback(lua_State* L) {
   const char* text = lua_tostring(L, 1);
   if (text == nullptr && luaL_callmeta(L, 1, "__tostring") != 0) text = lua_tostring(L, -1);
@@ -59,8 +59,8 @@ int Collect(lua_State* L) {
   return 0;
 }
 
-// Closes the state, which runs the script's finalisers. The collection comes first because Lua 5.3 loops for ever if a
-// finaliser collects in a lua_close that interrupts a sweep.
+// Closes the state, which runs the script's finalizers. The collection comes first because Lua 5.3 loops for ever if a
+// finalizer collects in a lua_close that interrupts a sweep.
 void Close(lua_State* L, Game& game) {
   game.closing = true;
   lua_pushcfunction(L, Collect);
@@ -189,7 +189,7 @@ int PlayIn(lua_State* L, Game& game) {
   return status;
 }
 
-// The module outlives the Lua state, whose closing runs the module's finalisers; the runtime's thread outlives both.
+// The module outlives the Lua state, whose closing runs the module's finalizers; the runtime's thread outlives both.
 int PlayOnce(Game& game) {
   game.frame = 0;
   game.quit = {};

@@ -23,7 +23,7 @@ Outcome getPropStr(lua_State* L) {
   });
 }
 
-// The SDK takes an untyped pointer, to an int, to text or to a one-byte bool as the Lua type says, and reads it in the
+// The SDK takes an untyped pointer, to an int, a string or a one-byte bool as the Lua type says, and reads it in the
 // form that the option's name asks for. Zeros behind a short value keep a reading in the wrong form inside the buffer.
 Outcome zvLumoSetOption(lua_State* L) {
   if (lua_gettop(L) < 2 || !lua_isstring(L, 1)) return Refusal();
@@ -48,7 +48,7 @@ Outcome zvLumoSetOption(lua_State* L) {
   return Outcome::Results(0);
 }
 
-// Nothing, nil and the empty string clear the text.
+// No argument, nil and the empty string clear the parameter.
 Outcome setCmdLineParameter(lua_State* L) {
   const char* text = nullptr;
   if (!lua_isnoneornil(L, 1)) {

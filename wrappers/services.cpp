@@ -34,7 +34,7 @@ Outcome zvCreateQRCode(lua_State* L) {
 
 namespace {
 
-// The integer at `index`, or `otherwise` where there is none.
+// Returns the integer at `index`, or `otherwise` if there is none.
 lua_Integer OptionalInteger(lua_State* L, int index, lua_Integer otherwise) {
   return lua_isinteger(L, index) ? lua_tointeger(L, index) : otherwise;
 }
