@@ -223,6 +223,7 @@ TEST_F(Hostile, FinalisersThatCollectWhileTheStateCloses) {
            "collectgarbage('restart') collectgarbage('setpause', 0) for i = 1, 50 do velora.OrderInfo.new('x') end",
            "collectgarbage('restart') velora.zvGetCheckedOrders()",
            "local o = velora.OrderInfo.new('x') deed(3) velora.zvCheckOrder(o) o:set_aid(1.5)",
+           "deed(3, 1) velora.ShareInfo.new('late')",  // while the holder reads the record
        }) {
     host.Open();
     lua_register(host.L, "deed", SetDeed);
