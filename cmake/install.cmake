@@ -11,9 +11,9 @@ target_include_directories(LuaVelora INTERFACE $<INSTALL_INTERFACE:include/LuaVe
 target_include_directories(velora_sdk INTERFACE $<INSTALL_INTERFACE:include/LuaVelora>)
 set(libraries LuaVelora velora_sdk)
 if(WIN32)
-  target_include_directories(lua INTERFACE $<INSTALL_INTERFACE:include/lua5.3>)
-  set_target_properties(lua PROPERTIES EXPORT_NAME Lua)
-  list(APPEND libraries lua)
+  target_include_directories(velora_lua INTERFACE $<INSTALL_INTERFACE:include/lua5.3>)
+  set_target_properties(velora_lua PROPERTIES EXPORT_NAME Lua)
+  list(APPEND libraries velora_lua)
 else()
   set_target_properties(LuaVelora velora_sdk PROPERTIES INSTALL_RPATH "$ORIGIN")
   set_target_properties(velora-play PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
@@ -24,7 +24,7 @@ install(TARGETS velora-play RUNTIME DESTINATION bin)
 install(EXPORT LuaVelora NAMESPACE LuaVelora:: FILE LuaVeloraTargets.cmake DESTINATION ${package})
 configure_package_config_file(cmake/LuaVeloraConfig.cmake.in LuaVeloraConfig.cmake INSTALL_DESTINATION ${package})
 write_basic_package_version_file(LuaVeloraConfigVersion.cmake COMPATIBILITY SameMajorVersion)
-install(FILES ${CMAKE_BINARY_DIR}/LuaVeloraConfig.cmake ${CMAKE_BINARY_DIR}/LuaVeloraConfigVersion.cmake
+install(FILES ${PROJECT_BINARY_DIR}/LuaVeloraConfig.cmake ${PROJECT_BINARY_DIR}/LuaVeloraConfigVersion.cmake
         DESTINATION ${package})
 
 install(FILES module/lua_velora.h DESTINATION include/LuaVelora/module)
