@@ -25,6 +25,7 @@ test: ## build and run every test: on Linux, as Windows programs under Wine, pac
 	$(MAKE) package
 	tests/package/check $(BUILD)/package/*.tar.gz $(BUILD)/release
 	tools/wine_run tests/package/check $(BUILD)/package/*.zip $(BUILD)/windows
+	tests/package/consume $(BUILD)/release
 	tools/setup browser
 	tests/site/check $(BUILD)/site
 	$(MAKE) threads
