@@ -5,7 +5,7 @@
 #   include/LuaVelora/    module/lua_velora.h, platform/
 #   include/lua5.3/       Lua's headers, on Windows
 #   share/LuaVelora/      README.md, docs/, examples/, types/, site/; on Windows licences/
-# `--component module` leaves out the offline runtime, the player and share/.
+# `--component module` leaves out the offline runtime, platform/, the player and share/.
 include(CMakePackageConfigHelpers)
 set(package lib/cmake/LuaVelora)
 
