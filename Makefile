@@ -19,6 +19,9 @@ test: ## build and run every test: on Linux, as Windows programs under Wine, pac
 	cmake --preset sanitize
 	cmake --build --preset sanitize
 	ctest --preset sanitize
+	cmake --preset lua-checks
+	cmake --build --preset lua-checks --target velora_tests
+	ctest --preset lua-checks
 	cmake --preset windows
 	cmake --build --preset windows
 	tools/wine_run ctest --preset windows

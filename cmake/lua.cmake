@@ -1,8 +1,9 @@
 # Lua 5.3 as `velora_lua_headers` (what compiling needs), `velora_lua` (Lua built as C, which hosts ship; for hosts
-# `LuaVelora::Lua`) and, where the machine has it, `velora_lua_cxx` (Lua built as C++, whose errors are exceptions).
+# `LuaVelora::Lua`) and, if the machine has it, `velora_lua_cxx` (Lua built as C++, whose errors are exceptions).
+option(VELORA_LUA_CHECKS "Build Lua from its source, so that it aborts if it or its caller is at fault; for tests" OFF)
 add_library(velora_lua_headers INTERFACE)
 
-if(NOT WIN32)
+if(NOT WIN32 AND NOT VELORA_LUA_CHECKS)
   find_package(PkgConfig REQUIRED)
   pkg_check_modules(VELORA_LUA REQUIRED IMPORTED_TARGET GLOBAL lua5.3)
   pkg_check_modules(VELORA_LUA_CXX IMPORTED_TARGET GLOBAL lua5.3-c++)
@@ -26,7 +27,12 @@ else()
   set(source ${VELORA_LUA_SOURCE})
 endif()
 target_include_directories(velora_lua_headers SYSTEM INTERFACE ${source}/src)
-target_compile_definitions(velora_lua_headers INTERFACE LUA_BUILD_AS_DLL)
+if(WIN32)
+  target_compile_definitions(velora_lua_headers INTERFACE LUA_BUILD_AS_DLL)
+endif()
+if(VELORA_LUA_CHECKS)
+  list(APPEND VELORA_LUA_OPTIONS -UNDEBUG -DLUA_USE_APICHECK -Dlua_assert=assert "SHELL:-include assert.h")
+endif()
 
 set(VELORA_LUA_HEADERS lua.h luaconf.h lualib.h lauxlib.h lua.hpp)  # the public ones
 file(GLOB sources ${source}/src/*.c)
@@ -34,7 +40,12 @@ list(FILTER sources EXCLUDE REGEX "/luac?\\.c$")
 add_library(velora_lua SHARED ${sources})
 add_library(LuaVelora::Lua ALIAS velora_lua)
 set_target_properties(velora_lua PROPERTIES PREFIX "" OUTPUT_NAME ${VELORA_LUA_DLL})
-target_compile_definitions(velora_lua PUBLIC LUA_BUILD_AS_DLL)
+if(WIN32)
+  target_compile_definitions(velora_lua PUBLIC LUA_BUILD_AS_DLL)
+else()
+  target_compile_definitions(velora_lua PRIVATE LUA_USE_POSIX)
+  target_link_libraries(velora_lua PRIVATE m)
+endif()
 target_include_directories(velora_lua SYSTEM INTERFACE $<BUILD_INTERFACE:${source}/src>)
 list(TRANSFORM VELORA_LUA_HEADERS PREPEND ${source}/src/)
 
