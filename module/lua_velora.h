@@ -6,6 +6,14 @@
 
 struct lua_State;
 
+// The version of the module that this header belongs to.
+#define LUA_VELORA_VERSION_MAJOR 1
+#define LUA_VELORA_VERSION_MINOR 0
+#define LUA_VELORA_VERSION_PATCH 0
+#define LUA_VELORA_STRING_OF(major, minor, patch) #major "." #minor "." #patch
+#define LUA_VELORA_JOIN(major, minor, patch) LUA_VELORA_STRING_OF(major, minor, patch)
+#define LUA_VELORA_VERSION LUA_VELORA_JOIN(LUA_VELORA_VERSION_MAJOR, LUA_VELORA_VERSION_MINOR, LUA_VELORA_VERSION_PATCH)
+
 #if defined(_WIN32) && defined(VELORA_MODULE_BUILD)
 #define LUA_VELORA_API __declspec(dllexport)
 #elif defined(_WIN32)

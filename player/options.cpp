@@ -9,6 +9,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "module/lua_velora.h"
+
 #define USAGE "usage: velora-play [OPTION...] SCRIPT [ARG...]\n"
 
 namespace player {
@@ -128,7 +130,7 @@ Options ParseOptions(int argc, char** argv) {
 
 const char* const kUsage = USAGE;
 
-const char* const kVersion = "velora-play " VELORA_VERSION ", " LUA_VERSION "\n";
+const char* const kVersion = "velora-play " LUA_VELORA_VERSION ", " LUA_VERSION "\n";
 
 const char* const kHelp = kHelpText;
 
