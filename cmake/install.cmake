@@ -4,7 +4,7 @@
 #                         pkg-config file
 #   include/LuaVelora/    module/lua_velora.h, platform/
 #   include/lua5.3/       Lua's headers, on Windows
-#   share/LuaVelora/      README.md, docs/, examples/, types/, site/; on Windows licences/
+#   share/LuaVelora/      README.md, CHANGELOG.md, docs/, examples/, types/, site/; on Windows licences/
 # `--component module` leaves out the offline runtime, platform/, the player and share/.
 include(CMakePackageConfigHelpers)
 set(package lib/cmake/LuaVelora)
@@ -53,7 +53,7 @@ install(TARGETS velora_sdk EXPORT LuaVeloraOffline
 install(TARGETS velora-play RUNTIME DESTINATION bin)
 install(EXPORT LuaVeloraOffline NAMESPACE LuaVelora:: FILE LuaVeloraOfflineTargets.cmake DESTINATION ${package})
 install(DIRECTORY docs examples types DESTINATION share/LuaVelora)
-install(FILES README.md DESTINATION share/LuaVelora)
+install(FILES README.md CHANGELOG.md DESTINATION share/LuaVelora)
 # The documents as web pages, if `make site` has written them.
 install(DIRECTORY build/site DESTINATION share/LuaVelora OPTIONAL)
 if(MINGW)
