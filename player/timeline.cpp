@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <fstream>
 #include <stdexcept>
+#include <vector>
 
 #include "player/terminal.h"
 
@@ -16,7 +17,7 @@ struct Timeline {
   std::ofstream file;
   std::string name;
   Clock::time_point start;
-  int openSlices = 0;
+  std::vector<std::string> openSlices{};  // their names, quoted
 };
 Timeline timeline;
 
@@ -84,14 +85,15 @@ void OpenTimeline(const std::filesystem::path& file, const std::string& title) {
 
 void BeginSlice(std::string_view name) {
   if (!timeline.file.is_open()) return;
-  ++timeline.openSlices;
-  Write("B", Track::kScript, ",\"name\":" + Quoted(name));
+  timeline.openSlices.push_back(Quoted(name));
+  Write("B", Track::kScript, ",\"name\":" + timeline.openSlices.back());
 }
 
 void EndSlice(std::string_view error) {
-  if (timeline.openSlices == 0) return;
-  --timeline.openSlices;
-  Write("E", Track::kScript, error.empty() ? "" : ",\"args\":{\"error\":" + Quoted(error) + "}");
+  if (timeline.openSlices.empty()) return;
+  const std::string name = ",\"name\":" + timeline.openSlices.back();
+  timeline.openSlices.pop_back();
+  Write("E", Track::kScript, error.empty() ? name : name + ",\"args\":{\"error\":" + Quoted(error) + "}");
 }
 
 void MarkPoint(Track track, std::string_view name) {
@@ -100,7 +102,7 @@ void MarkPoint(Track track, std::string_view name) {
 
 void CloseTimeline() {
   if (!timeline.file.is_open()) return;
-  while (timeline.openSlices > 0) EndSlice();
+  while (!timeline.openSlices.empty()) EndSlice();
   timeline.file << "]\n";
   timeline.file.close();
   if (!timeline.file) Complain(("cannot write " + timeline.name).c_str());
