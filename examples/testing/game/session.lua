@@ -46,7 +46,7 @@ velora.setOnLoginDone(function(code)
   elseif code == velora.LOGIN_DONE_CANCEL then
     enter("cancelled")
   else
-    enter("failed", reasons[code] or "code " .. code)
+    enter("failed", reasons[code] or ("code " .. code))
   end
 end)
 
