@@ -5,6 +5,7 @@ local testing = {}
 local LONGEST_WAIT = 300 -- frames
 
 local cases = {}
+local running -- the name of the running case
 local undo -- of the running case: functions that undo what it has changed
 
 -- Adds a case. `body` may call the functions below.
@@ -52,7 +53,7 @@ end
 
 local function runAll()
   for _, case in ipairs(cases) do
-    undo = {}
+    running, undo = case.name, {}
     case.body()
     testing.settle()
     for _, f in ipairs(undo) do f() end
@@ -65,7 +66,7 @@ function testing.run()
   local all = coroutine.create(runAll)
   player.onFrame(function()
     local ok, message = coroutine.resume(all)
-    if not ok then error(debug.traceback(all, message), 0) end
+    if not ok then error(debug.traceback(all, running .. ": " .. tostring(message)), 0) end
     if coroutine.status(all) == "dead" then player.quit() end
   end)
 end
