@@ -37,7 +37,8 @@ function offline.calls() end
 function offline.log() end
 
 ---Sets the result of an operation from now on. If the result arrives as an event, this sets its flag, code or order
----status. The methods of PadEvent are named `"PadRecord.get_x"`.
+---status. A value that the operation has no use for, such as a string for `zvLogin`, has the effect of nil. The methods
+---of PadEvent are named `"PadRecord.get_x"`.
 ---@param name string an operation, such as `"zvLogin"`; methods with their class, such as `"OrderInfo.get_aid"`
 ---@param value string|boolean|integer|nil false: a failure, no string or no record; nil: the default again
 function offline.answer(name, value) end
