@@ -163,9 +163,6 @@ Operation Call(const char* operation, const Arguments&... arguments) {
   return Operation(operation);
 }
 
-// Whether there is an operation of that name, getters and setters of records included.
-bool IsOperation(std::string_view name);
-
 // Removes all set answers.
 void ForgetAnswers();
 

@@ -5,7 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <variant>
 #include <vector>
@@ -56,6 +58,9 @@ VELORA_SDK_API void SetLogColour(bool enabled);
 //   list or a string and for a view, false for an empty one or none.
 // Throws std::invalid_argument if there is no operation of that name.
 VELORA_SDK_API void SetAnswer(const std::string& name, Answer answer);
+
+// Returns the names that SetAnswer knows.
+VELORA_SDK_API std::span<const std::string_view> OperationNames();
 
 // Queues an event for the next SwapEvents. An empty reference is ignored.
 VELORA_SDK_API void Post(std::shared_ptr<Event> event);

@@ -1,9 +1,8 @@
 // The names under which SetAnswer knows the operations.
-#include <algorithm>
-#include <iterator>
+#include <span>
 #include <string_view>
 
-#include "offline/calls.h"
+#include "offline/control.h"
 
 namespace tarn::velora::offline {
 namespace {
@@ -24,8 +23,6 @@ constexpr std::string_view kOperations[] = {
 
 }  // namespace
 
-bool IsOperation(std::string_view name) {
-  return std::find(std::begin(kOperations), std::end(kOperations), name) != std::end(kOperations);
-}
+std::span<const std::string_view> OperationNames() { return kOperations; }
 
 }  // namespace tarn::velora::offline

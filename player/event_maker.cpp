@@ -264,9 +264,7 @@ EventRow FindRow(lua_State* L, int index) {
       if (row.name == name) return row;
       suggestion.Consider(row.name);
     }
-    const std::string similar(suggestion.Best());
-    throw ArgumentError(index, "invalid event '" + std::string(name) + "'" +
-                                   (similar.empty() ? "" : "; did you mean " + similar + "?"));
+    throw ArgumentError(index, "invalid event '" + std::string(name) + "'" + suggestion.Text());
   }
   if (lua_type(L, index) != LUA_TNUMBER) throw ArgumentError(index, Mismatch(L, index, "event name or number"));
   const lua_Integer number = CheckInteger(L, index);

@@ -13,6 +13,7 @@
 #include "player/arguments.h"
 #include "player/event_maker.h"
 #include "player/event_pass.h"
+#include "player/suggest.h"
 
 namespace player {
 namespace {
@@ -60,7 +61,9 @@ Outcome Answer(lua_State* L) {
   try {
     offline::SetAnswer(name, std::move(answer));
   } catch (const std::invalid_argument& error) {
-    throw ArgumentError(1, error.what());
+    Suggestion suggestion(name);
+    for (const std::string_view operation : offline::OperationNames()) suggestion.Consider(operation);
+    throw ArgumentError(1, error.what() + suggestion.Text());
   }
   return Outcome::Results(0);
 }

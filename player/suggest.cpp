@@ -49,4 +49,8 @@ void Suggestion::Consider(std::string_view name) {
   bestDistance_ = distance;
 }
 
+std::string Suggestion::Text() const {
+  return best_.empty() ? std::string() : "; did you mean " + std::string(best_) + "?";
+}
+
 }  // namespace player

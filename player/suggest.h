@@ -1,6 +1,7 @@
 // "Did you mean": the name that is most like a wrong one.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace player {
@@ -12,6 +13,9 @@ class Suggestion {
 
   // `name` must stay alive.
   void Consider(std::string_view name);
+
+  // Returns "; did you mean NAME?" with the best name, or an empty string if none is similar.
+  std::string Text() const;
 
   // Returns the best name, or an empty one if none is similar. Of equally good ones it is the first in the alphabet.
   std::string_view Best() const { return best_; }
