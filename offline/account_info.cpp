@@ -9,7 +9,7 @@ namespace {
 
 class Account final : public AccountInfo, public Record {
  public:
-  explicit Account(std::string madeWith) : Record("AccountInfo", std::move(madeWith)) {}
+  explicit Account(std::string arguments) : Record("AccountInfo", std::move(arguments)) {}
 
 #define RECORD_CLASS "AccountInfo"
 #define RECORD_FIELDS "platform/account_info.def"
@@ -26,12 +26,12 @@ std::shared_ptr<AccountInfo> MakeAccount(const Fields& fields) { return MakeFill
 
 std::shared_ptr<AccountInfo> AccountInfo::New() {
   offline::Call("AccountInfo.New");
-  return offline::Produce<offline::Account>("AccountInfo.New", "");
+  return offline::CreateRecord<offline::Account>("AccountInfo.New", "");
 }
 
 std::shared_ptr<AccountInfo> AccountInfo::New(const std::string& text) {
   offline::Call("AccountInfo.New", text);
-  return offline::Produce<offline::Account>("AccountInfo.New", offline::Joined(text));
+  return offline::CreateRecord<offline::Account>("AccountInfo.New", offline::FormatArguments(text));
 }
 
 }  // namespace tarn::velora

@@ -1,4 +1,4 @@
-// Call lines, set answers and the call hook.
+// Call lines, canned results and the call hook.
 #include "offline/calls.h"
 
 #include <algorithm>
@@ -20,7 +20,7 @@ namespace {
 constexpr std::size_t kMaxLines = 100'000;
 constexpr std::size_t kMaxBytes = 64U << 20U;
 
-struct Calls {
+struct CallState {
   LineBuffer lines;
   std::atomic<bool> trace = false;
   std::atomic<void (*)(const char*)> hook = nullptr;
@@ -32,23 +32,23 @@ struct Calls {
 };
 
 // Never destroyed: the runtime's thread may still be running when the process ends.
-Calls& TheCalls() {
-  static Calls& calls = *new Calls;
-  return calls;
+CallState& GetCallState() {
+  static CallState& state = *new CallState;
+  return state;
 }
 
 thread_local int pauses = 0;
 
-// Returns the answer set for the operation, or null.
+// Returns the operation's canned result, or null if there is none or canned results are disabled on this thread.
 std::shared_ptr<const Answer> FindAnswer(const char* operation) {
-  Calls& calls = TheCalls();
-  if (!calls.hasAnswers || pauses > 0) return nullptr;
-  std::lock_guard lock(calls.mutex);
-  const auto found = calls.answers.find(std::string_view(operation));
-  return found == calls.answers.end() ? nullptr : found->second;
+  CallState& state = GetCallState();
+  if (!state.hasAnswers || pauses > 0) return nullptr;
+  std::lock_guard lock(state.mutex);
+  const auto found = state.answers.find(std::string_view(operation));
+  return found == state.answers.end() ? nullptr : found->second;
 }
 
-// `foreign` is written for a record that this runtime did not make.
+// Appends a record, or `foreign` if another library made it.
 template <class Class>
 void AppendReference(std::string& line, const std::shared_ptr<Class>& reference, const char* foreign) {
   if (const auto* record = dynamic_cast<const Record*>(reference.get())) {
@@ -83,14 +83,14 @@ ControlPause::ControlPause() { ++pauses; }
 ControlPause::~ControlPause() { --pauses; }
 
 void RunHook(const char* operation) {
-  const auto hook = TheCalls().hook.load();
+  const auto hook = GetCallState().hook.load();
   if (hook != nullptr && pauses == 0) hook(operation);
 }
 
-Observer* TheObserver() { return TheCalls().observer; }
+Observer* GetObserver() { return GetCallState().observer; }
 
-void Doubt(const char* operation, const std::string& reason) {
-  if (Observer* observer = TheObserver()) observer->OnDoubt(operation, reason);
+void Warn(const char* operation, const std::string& reason) {
+  if (Observer* observer = GetObserver()) observer->OnWarning(operation, reason);
 }
 
 void Append(std::string& line, std::string_view text) {
@@ -157,7 +157,7 @@ void Append(std::string& line, const Verbatim& verbatim) { line += verbatim.text
 void Append(std::string& line, const Record& record) {
   line += record.RecordClass();
   line += '(';
-  line += record.MadeWith();
+  line += record.Arguments();
   line += ')';
 }
 
@@ -183,9 +183,9 @@ std::string BeginLine(std::string_view operation) {
 
 void KeepLine(std::string line) {
   line += ')';
-  if (TheCalls().trace) std::fprintf(stderr, "[sdk] %s\n", line.c_str());
-  if (Observer* observer = TheObserver()) observer->OnCall(line);
-  TheCalls().lines.Add(std::move(line));
+  if (GetCallState().trace) std::fprintf(stderr, "[sdk] %s\n", line.c_str());
+  if (Observer* observer = GetObserver()) observer->OnCall(line);
+  GetCallState().lines.Add(std::move(line));
 }
 
 bool Operation::Text(const std::optional<std::string>& fallback, std::string& out) const {
@@ -224,33 +224,33 @@ std::optional<std::int64_t> Operation::NumberAnswer() const {
   return std::nullopt;
 }
 
-std::vector<std::string> TakeCalls() { return TheCalls().lines.Take(); }
+std::vector<std::string> TakeCalls() { return GetCallState().lines.Take(); }
 
-void SetTrace(bool enabled) { TheCalls().trace = enabled; }
+void SetTrace(bool enabled) { GetCallState().trace = enabled; }
 
-void SetCallHook(void (*hook)(const char* operation)) { TheCalls().hook = hook; }
+void SetCallHook(void (*hook)(const char* operation)) { GetCallState().hook = hook; }
 
-void SetObserver(Observer* observer) { TheCalls().observer = observer; }
+void SetObserver(Observer* observer) { GetCallState().observer = observer; }
 
 void SetAnswer(const std::string& name, Answer answer) {
   const std::span<const std::string_view> names = OperationNames();
   if (std::find(names.begin(), names.end(), name) == names.end())
     throw std::invalid_argument("invalid operation '" + name + "'");
-  Calls& calls = TheCalls();
-  std::lock_guard lock(calls.mutex);
+  CallState& state = GetCallState();
+  std::lock_guard lock(state.mutex);
   if (std::holds_alternative<std::monostate>(answer)) {
-    calls.answers.erase(name);
+    state.answers.erase(name);
   } else {
-    calls.answers[name] = std::make_shared<const Answer>(std::move(answer));
+    state.answers[name] = std::make_shared<const Answer>(std::move(answer));
   }
-  calls.hasAnswers = !calls.answers.empty();
+  state.hasAnswers = !state.answers.empty();
 }
 
-void ForgetAnswers() {
-  Calls& calls = TheCalls();
-  std::lock_guard lock(calls.mutex);
-  calls.answers.clear();
-  calls.hasAnswers = false;
+void ClearAnswers() {
+  CallState& state = GetCallState();
+  std::lock_guard lock(state.mutex);
+  state.answers.clear();
+  state.hasAnswers = false;
 }
 
 }  // namespace tarn::velora::offline

@@ -1,5 +1,4 @@
-// The start of every operation: runs the call hook, records the call line and returns the operation's result, which a
-// player or a test may have set.
+// What every operation begins with: it runs the call hook, records the call line and looks up its canned result.
 #pragma once
 
 #include <concepts>
@@ -34,7 +33,7 @@ class Record;
 constexpr std::int32_t kOk = 0;
 constexpr std::int32_t kFailed = 1;
 
-// Lines kept until they are taken. The oldest are dropped when there are too many, so that memory use is bounded.
+// Lines kept until Take. Drops the oldest if there are too many, so that memory use is bounded. Thread-safe.
 class LineBuffer {
  public:
   void Add(std::string line);
@@ -46,7 +45,7 @@ class LineBuffer {
   std::size_t bytes_ = 0;
 };
 
-// Disables the call hook and the set answers on this thread while it lives, for the runtime's own access to records.
+// Disables the call hook and canned results on this thread while it lives, for the runtime's own access to records.
 class ControlPause {
  public:
   ControlPause();
@@ -55,21 +54,21 @@ class ControlPause {
   ControlPause& operator=(const ControlPause&) = delete;
 };
 
-// Runs the call hook, if one is set. It may throw and may call any operation, so no lock may be held here.
+// Runs the call hook, if one is set. The hook may throw and may call operations, so the caller must hold no lock.
 void RunHook(const char* operation);
 
 // Returns the observer, or null if none is set.
-Observer* TheObserver();
+Observer* GetObserver();
 
-// Tells the observer that a real SDK would hardly accept this call.
-void Doubt(const char* operation, const std::string& reason);
+// Tells the observer that a real SDK would probably refuse this call, and why.
+void Warn(const char* operation, const std::string& reason);
 
-// An argument that is written to the call line without quotes.
+// A string that is written to the call line without quotes.
 struct Verbatim {
   std::string text;
 };
 
-// Appends an argument in the form used in call lines. Strings are quoted; null pointers are written as null.
+// Append an argument in the form used in call lines. Strings are quoted; null pointers are written as null.
 void Append(std::string& line, std::string_view text);
 void Append(std::string& line, const char* text);
 void Append(std::string& line, double number);
@@ -103,34 +102,34 @@ void AppendList(std::string& line, const Values& values, AppendOne appendOne) {
 
 inline void Append(std::string& line, bool flag) { line += flag ? "true" : "false"; }
 
-// Appends the arguments, separated by commas.
 template <class... Arguments>
 void AppendAll(std::string& line, const Arguments&... arguments) {
   [[maybe_unused]] const char* separator = "";
   ((line += separator, Append(line, arguments), separator = ", "), ...);
 }
 
+// Returns the arguments in the form used in call lines, separated by commas.
 template <class... Arguments>
-std::string Joined(const Arguments&... arguments) {
+std::string FormatArguments(const Arguments&... arguments) {
   std::string text;
   AppendAll(text, arguments...);
   return text;
 }
 
-// The result of an operation: the answer set for it, looked up on each use, or else a default.
+// The result of an operation: its canned result, looked up on each use, or a default if there is none.
 class Operation {
  public:
   explicit Operation(const char* name) : name_(name) {}
 
-  // For an operation that fills a string: stores the set string or number in `out`, else `fallback`. Returns false,
-  // with `out` unspecified, if the answer is false or if there is neither an answer nor a fallback.
+  // For an operation that returns a string: stores the canned string or number in `out`, or `fallback` without one, and
+  // returns true. Returns false, with `out` unspecified, if the canned result is false or there is nothing to store.
   bool Text(const std::optional<std::string>& fallback, std::string& out) const;
 
-  // The string of an event that repeats `own`: the set string instead, or an empty one if the answer is false. Numbers
-  // are ignored, since they may be the event's code.
+  // Returns the string for the operation's event: the canned string, an empty one if the canned result is false, else
+  // `own`. A number is ignored, since it may be the event's code.
   std::string EventText(const std::string& own) const;
 
-  // The set number, with a boolean as 1 or 0.
+  // Returns the canned number, or a canned boolean as 1 or 0; else `fallback`.
   template <class Value>
   Value Number(Value fallback) const {
     const std::optional<std::int64_t> number = NumberAnswer();
@@ -138,7 +137,8 @@ class Operation {
   }
   bool Flag(bool fallback) const { return Number(fallback); }
 
-  // The code of the operation's event: the set number; `failed` if the answer is false.
+  // Returns the code for the operation's event: the canned number, `failed` if the canned result is false, else
+  // `success`.
   std::int32_t Code(std::int32_t success = kOk, std::int32_t failed = kFailed) const;
 
  private:
@@ -147,13 +147,13 @@ class Operation {
   const char* name_;
 };
 
-// Returns the start of a call line, "name(". Class names ("OrderInfo.New") are left out.
+// Returns the start of a call line, "name(", without the class: "New(" for "OrderInfo.New".
 std::string BeginLine(std::string_view operation);
 
 // Closes the call line, keeps it for TakeCalls and prints it if tracing is on.
 void KeepLine(std::string line);
 
-// Starts an operation: runs the hook, then records the call line. If this throws, nothing has been recorded.
+// Starts an operation: runs the hook, then records the call line. If the hook throws, nothing is recorded.
 template <class... Arguments>
 Operation Call(const char* operation, const Arguments&... arguments) {
   RunHook(operation);
@@ -163,7 +163,7 @@ Operation Call(const char* operation, const Arguments&... arguments) {
   return Operation(operation);
 }
 
-// Removes all set answers.
-void ForgetAnswers();
+// Removes all canned results.
+void ClearAnswers();
 
 }  // namespace tarn::velora::offline

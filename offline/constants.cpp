@@ -1,6 +1,6 @@
-// The values of the SDK's constants. A string is the script's name for it in lower case ("velora.app_key"), so that
-// call logs show which constant was passed and hard-coded values are visible; numbers count through the list. No value
-// occurs twice.
+// The values of the SDK's constants. Each is different. A string constant is its own name in lower case
+// ("velora.app_key"), so that call logs show which constant was passed and which values are hard-coded. An integer
+// constant is its position in the list plus an offset.
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -19,9 +19,9 @@ enum Row : std::int32_t {
 };
 
 constexpr std::int32_t kFirstNumber = 1000;
-constexpr float kMaxPrice = 9999.75F;  // not a whole number: whoever truncates it shows
+constexpr float kMaxPrice = 9999.75F;  // has a fraction, so that truncating it is noticed
 
-// ASCII only: the locale has no say.
+// Unlike std::tolower, independent of the locale.
 std::string Lower(std::string_view name) {
   std::string text(name);
   for (char& character : text) {
@@ -37,7 +37,7 @@ Kind ValueOf(std::string_view name, std::int32_t row) {
   } else if constexpr (std::is_same_v<Kind, ConstProp::Float>) {
     return kMaxPrice;
   } else {
-    return row == kRowOf_AUTH_UNLOGIN ? -1 : kFirstNumber + row;  // a negative one: a lost sign shows
+    return row == kRowOf_AUTH_UNLOGIN ? -1 : kFirstNumber + row;  // negative, so that a lost sign is noticed
   }
 }
 

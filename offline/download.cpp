@@ -1,5 +1,5 @@
-// The download service. Nothing is downloaded; events repeat the strings passed in. Handlers are only called through
-// the player, on the thread of Lua.
+// The download service. It downloads nothing; its events repeat the strings passed to it. Only the player calls the
+// handlers, on Lua's thread.
 #include "platform/download.h"
 
 #include <algorithm>
@@ -14,42 +14,42 @@ using namespace offline;
 
 namespace {
 
-// Marks the service's own events, to tell them from those that a player posts.
-struct OwnEvent {
-  virtual ~OwnEvent() = default;
+// Base of the service's own events, which distinguishes them from events posted by a player.
+struct ServiceEvent {
+  virtual ~ServiceEvent() = default;
 };
 
 template <class Base>
-struct OwnLayout final : Base, OwnEvent {
+struct ServiceLayout final : Base, ServiceEvent {
   using Base::Base;
 };
 
 template <class Kind, class... Values>
-std::shared_ptr<Event> MakeOwn(Values&&... values) {
-  return MakeEvent<Kind, OwnLayout<typename Kind::Layout>>(std::forward<Values>(values)...);
+std::shared_ptr<Event> MakeServiceEvent(Values&&... values) {
+  return MakeEvent<Kind, ServiceLayout<typename Kind::Layout>>(std::forward<Values>(values)...);
 }
 
-bool IsOwn(const Event& event) { return dynamic_cast<const OwnEvent*>(&event) != nullptr; }
+bool IsServiceEvent(const Event& event) { return dynamic_cast<const ServiceEvent*>(&event) != nullptr; }
 
-void ReplyIfEnabled(std::vector<std::shared_ptr<Event>> answers) {
-  if (Get(&State::downloadEvents)) Reply(std::move(answers));
+void ReplyIfEnabled(std::vector<std::shared_ptr<Event>> replies) {
+  if (Get(&State::downloadEvents)) Reply(std::move(replies));
 }
 
-Verbatim Named(const SyncDownloadHandler* handler) { return {handler == nullptr ? "null" : "<handler>"}; }
+Verbatim FormatHandler(const SyncDownloadHandler* handler) { return {handler == nullptr ? "null" : "<handler>"}; }
 
 }  // namespace
 
 void init() {
-  if (Call(__func__).Flag(true)) ReplyIfEnabled({MakeOwn<events::DownloadInited>()});
+  if (Call(__func__).Flag(true)) ReplyIfEnabled({MakeServiceEvent<events::DownloadInited>()});
 }
 
-// A download command completes at once; every event repeats it.
+// Every command completes at once. The events repeat it.
 void extendFunc(const std::string& text) {
   if (!Call(__func__, text).Flag(true)) return;
-  std::vector<std::shared_ptr<Event>> answers = {MakeOwn<events::DownloadProgress>(text),
-                                                 MakeOwn<events::DownloadFinish>(text)};
-  if (Get(&State::downloadFinish2)) answers.push_back(MakeOwn<events::DownloadFinish2>(text));
-  ReplyIfEnabled(std::move(answers));
+  std::vector<std::shared_ptr<Event>> replies = {MakeServiceEvent<events::DownloadProgress>(text),
+                                                 MakeServiceEvent<events::DownloadFinish>(text)};
+  if (Get(&State::downloadFinish2)) replies.push_back(MakeServiceEvent<events::DownloadFinish2>(text));
+  ReplyIfEnabled(std::move(replies));
 }
 
 void disableDownloadFinish2() {
@@ -59,7 +59,7 @@ void disableDownloadFinish2() {
 
 bool query(std::string& out) {
   const bool found = Call(__func__).Text("{\"state\":\"idle\"}", out);
-  if (found) ReplyIfEnabled({MakeOwn<events::DownloadProgress>(out)});
+  if (found) ReplyIfEnabled({MakeServiceEvent<events::DownloadProgress>(out)});
   return found;
 }
 
@@ -67,7 +67,7 @@ bool getDownloadSDKVersion(std::string& out) { return Call(__func__).Text("offli
 bool getOrbitSessionId(std::string& out) { return Call(__func__).Text("offline_orbit_session", out); }
 
 void addSyncDownloadHandler(SyncDownloadHandler* handler) {
-  Call(__func__, Named(handler));
+  Call(__func__, FormatHandler(handler));
   if (handler == nullptr) return;
   LockedState state;
   auto& handlers = state->downloadHandlers;
@@ -75,7 +75,7 @@ void addSyncDownloadHandler(SyncDownloadHandler* handler) {
 }
 
 void removeSyncDownloadHandler(SyncDownloadHandler* handler) {
-  Call(__func__, Named(handler));
+  Call(__func__, FormatHandler(handler));
   std::erase(LockedState()->downloadHandlers, handler);
 }
 
@@ -83,7 +83,7 @@ void removeSyncDownloadHandler(SyncDownloadHandler* handler) {
 void enableAsyncEvent(bool enabled) {
   Call(__func__, enabled);
   LockedState()->downloadEvents = enabled;
-  if (!enabled) TakeBack(IsOwn);
+  if (!enabled) DropEvents(IsServiceEvent);
 }
 
 }  // namespace tarn::velora::download

@@ -16,7 +16,7 @@ namespace tarn::velora::offline {
 namespace {
 
 struct Job {
-  std::vector<std::shared_ptr<Event>> answers;
+  std::vector<std::shared_ptr<Event>> replies;
   std::function<void()> effect;
 };
 
@@ -25,48 +25,49 @@ using Effects = std::list<std::function<void()>>;
 struct Queue {
   std::mutex mutex;
   std::vector<std::shared_ptr<Event>> events;
-  Effects effects;                      // of the answers among them
-  std::atomic<bool> hasEvents = false;  // spares an idle frame the lock
-  std::list<Job> jobs;                  // a list, so that jobs move from hand to hand without allocating
-  bool busy = false;                    // a job is being done
+  Effects effects;                      // of the replies in `events`
+  std::atomic<bool> hasEvents = false;  // lets SwapEvents skip the lock in an idle frame
+  std::list<Job> jobs;                  // a list, so that moving a job allocates nothing
+  bool busy = false;                    // the thread runs a job
   bool stopping = false;
   std::condition_variable wake;
   std::condition_variable idle;
 
-  // Held while the thread is started or stopped; taken before `mutex`, never by the thread itself.
+  // Held while the thread is started or stopped. Locked before `mutex`; never locked by the thread itself.
   std::mutex threadMutex;
   std::thread thread;
 };
 
-// Never destroyed: the thread may outlive the process's statics if nobody called Stop.
-Queue& TheQueue() {
+// Never destroyed: without a Stop, the thread outlives the static objects of the process.
+Queue& GetQueue() {
   static Queue& queue = *new Queue;
   return queue;
 }
 
-void NoteEvents(Queue& queue) { queue.hasEvents = !queue.events.empty() || !queue.effects.empty(); }
+void UpdateHasEvents(Queue& queue) { queue.hasEvents = !queue.events.empty() || !queue.effects.empty(); }
 
-void Enqueue(std::vector<std::shared_ptr<Event>> fresh, std::function<void()> effect) {
+void Enqueue(std::vector<std::shared_ptr<Event>> events, std::function<void()> effect) {
   Effects effects;
   if (effect) effects.push_back(std::move(effect));
-  Queue& queue = TheQueue();
+  Queue& queue = GetQueue();
   std::lock_guard lock(queue.mutex);
-  queue.events.insert(queue.events.end(), std::make_move_iterator(fresh.begin()), std::make_move_iterator(fresh.end()));
+  queue.events.insert(queue.events.end(), std::make_move_iterator(events.begin()),
+                      std::make_move_iterator(events.end()));
   queue.effects.splice(queue.effects.end(), effects);
-  NoteEvents(queue);
+  UpdateHasEvents(queue);
 }
 
-// Nothing may leave the thread: what cannot be done (for want of memory, say) is reported and left.
-void Perform(Job& job) {
+// No exception may leave the thread: if memory runs out, the reply is dropped, with a message.
+void RunJob(Job& job) {
   try {
-    Enqueue(std::move(job.answers), std::move(job.effect));
+    Enqueue(std::move(job.replies), std::move(job.effect));
   } catch (...) {
-    std::fputs("[sdk] an answer is lost\n", stderr);
+    std::fputs("[sdk] not enough memory, an event is dropped\n", stderr);
   }
 }
 
 void RunThread() {
-  Queue& queue = TheQueue();
+  Queue& queue = GetQueue();
   std::unique_lock lock(queue.mutex);
   for (;;) {
     queue.wake.wait(lock, [&] { return queue.stopping || !queue.jobs.empty(); });
@@ -75,8 +76,8 @@ void RunThread() {
     current.splice(current.begin(), queue.jobs, queue.jobs.begin());
     queue.busy = true;
     lock.unlock();
-    Perform(current.front());
-    current.clear();  // whoever waits for this job may count on its records being released
+    RunJob(current.front());
+    current.clear();  // a thread that waits for this job expects its records to be released
     lock.lock();
     queue.busy = false;
     queue.idle.notify_all();
@@ -85,10 +86,10 @@ void RunThread() {
 
 }  // namespace
 
-void Reply(std::vector<std::shared_ptr<Event>> answers, std::function<void()> effect) {
+void Reply(std::vector<std::shared_ptr<Event>> replies, std::function<void()> effect) {
   std::list<Job> job;
-  job.push_back({std::move(answers), std::move(effect)});
-  Queue& queue = TheQueue();
+  job.push_back({std::move(replies), std::move(effect)});
+  Queue& queue = GetQueue();
   std::lock_guard threadLock(queue.threadMutex);
   if (!queue.thread.joinable()) queue.thread = std::thread(RunThread);
   {
@@ -100,26 +101,27 @@ void Reply(std::vector<std::shared_ptr<Event>> answers, std::function<void()> ef
 
 void Post(std::shared_ptr<Event> event) {
   if (event == nullptr) return;
-  std::vector<std::shared_ptr<Event>> fresh;
-  fresh.push_back(std::move(event));
-  Enqueue(std::move(fresh), nullptr);
+  std::vector<std::shared_ptr<Event>> events;
+  events.push_back(std::move(event));
+  Enqueue(std::move(events), nullptr);
 }
 
-void TakeBack(bool (*unwanted)(const Event& event)) {
-  const auto drop = [unwanted](std::vector<std::shared_ptr<Event>>& events) {
-    std::erase_if(events, [unwanted](const auto& event) { return unwanted(*event); });
+void DropEvents(bool (*predicate)(const Event& event)) {
+  const auto drop = [predicate](std::vector<std::shared_ptr<Event>>& events) {
+    std::erase_if(events, [predicate](const auto& event) { return predicate(*event); });
   };
-  Queue& queue = TheQueue();
+  Queue& queue = GetQueue();
   std::unique_lock lock(queue.mutex);
   queue.idle.wait(lock, [&] { return !queue.busy; });
   drop(queue.events);
-  NoteEvents(queue);
-  for (Job& job : queue.jobs) drop(job.answers);
+  UpdateHasEvents(queue);
+  for (Job& job : queue.jobs) drop(job.replies);
 }
 
-void ForgetEvents() {
-  Queue& queue = TheQueue();
-  std::list<Job> jobs;  // released when the lock is open again
+void ClearEvents() {
+  Queue& queue = GetQueue();
+  // Destroyed after the lock is released, since destroying a record may call back.
+  std::list<Job> jobs;
   std::vector<std::shared_ptr<Event>> dropped;
   Effects effects;
   std::unique_lock lock(queue.mutex);
@@ -132,7 +134,7 @@ void ForgetEvents() {
 }
 
 void Stop() {
-  Queue& queue = TheQueue();
+  Queue& queue = GetQueue();
   std::lock_guard threadLock(queue.threadMutex);
   if (!queue.thread.joinable()) return;
   {
@@ -151,7 +153,7 @@ namespace tarn::velora {
 
 void SwapEvents(std::vector<std::shared_ptr<Event>>& events) {
   offline::RunHook("SwapEvents");
-  offline::Queue& queue = offline::TheQueue();
+  offline::Queue& queue = offline::GetQueue();
   if (!queue.hasEvents) return;
   const offline::ControlPause pause;
   std::unique_lock lock(queue.mutex);
@@ -164,9 +166,9 @@ void SwapEvents(std::vector<std::shared_ptr<Event>>& events) {
     lock.lock();
   }
   events.swap(queue.events);
-  offline::NoteEvents(queue);
+  offline::UpdateHasEvents(queue);
   lock.unlock();
-  if (offline::Observer* observer = offline::TheObserver()) observer->OnEvents(events);
+  if (offline::Observer* observer = offline::GetObserver()) observer->OnEvents(events);
 }
 
 }  // namespace tarn::velora

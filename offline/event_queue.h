@@ -1,4 +1,4 @@
-// The events that wait for SwapEvents, and the runtime's own thread, from which operations are answered.
+// The queue of events for SwapEvents, and the runtime's thread, which queues the replies to operations.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@
 
 namespace tarn::velora::offline {
 
-// One type per event: its number and the layout of its payload.
+// One type per event, with its number and the layout of its payload.
 namespace events {
 #define VELORA_EVENT(number, name, layout)        \
   struct name {                                   \
@@ -23,7 +23,7 @@ namespace events {
 #include "platform/events.def"
 }  // namespace events
 
-// Sets the first payload fields; those that are not given keep their defaults.
+// Sets the first payload fields to `values`; the others keep their defaults.
 template <class Layout, class... Values>
 void SetPayload(Layout& event, Values&&... values) {
   [&]<std::size_t... i>(std::index_sequence<i...>) {
@@ -32,7 +32,7 @@ void SetPayload(Layout& event, Values&&... values) {
   (std::index_sequence_for<Values...>());
 }
 
-// A new event of that kind, `MakeEvent<events::LoginDone>(0)`.
+// Returns a new event of that kind, as in `MakeEvent<events::LoginDone>(0)`.
 template <class Kind, class Made = typename Kind::Layout, class... Values>
 std::shared_ptr<Event> MakeEvent(Values&&... values) {
   auto event = std::make_shared<Made>(Kind::kType);
@@ -40,16 +40,15 @@ std::shared_ptr<Event> MakeEvent(Values&&... values) {
   return event;
 }
 
-// Answers an operation from the runtime's thread, soon and in the order of the calls: the events are queued there, and
-// `effect` runs when SwapEvents returns them, so that its changes are not visible earlier. Either all of it is on its
-// way, or this throws and nothing is.
-void Reply(std::vector<std::shared_ptr<Event>> answers, std::function<void()> effect = nullptr);
+// Queues `replies` from the runtime's thread, asynchronously and in call order. `effect` runs in the SwapEvents that
+// returns them, so that its changes are not visible earlier. If this throws, nothing is queued.
+void Reply(std::vector<std::shared_ptr<Event>> replies, std::function<void()> effect = nullptr);
 
-// Drops the events for which `unwanted` holds and which SwapEvents has not returned yet: queued ones, and answers that
-// have yet to be queued.
-void TakeBack(bool (*unwanted)(const Event& event));
+// Drops the events for which `predicate` returns true and which SwapEvents has not returned, including replies that are
+// not queued yet.
+void DropEvents(bool (*predicate)(const Event& event));
 
-// Drops answers that have not begun, waits for the one that has, and forgets the queued events.
-void ForgetEvents();
+// Drops all queued events and replies. Waits for a reply that is being queued.
+void ClearEvents();
 
 }  // namespace tarn::velora::offline

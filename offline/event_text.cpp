@@ -1,4 +1,4 @@
-// Events as strings, in the form of call lines.
+// The string form of events.
 #include <tuple>
 
 #include "offline/calls.h"

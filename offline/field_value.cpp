@@ -1,4 +1,3 @@
-// The conversions of field values.
 #include "offline/field_value.h"
 
 #include <cmath>
@@ -13,13 +12,13 @@ namespace {
 
 constexpr double kTwoTo63 = 9223372036854775808.0;
 
-std::int64_t Whole(double number) {
+std::int64_t ToInteger(double number) {
   if (number >= -kTwoTo63 && number < kTwoTo63 && std::trunc(number) == number)
     return static_cast<std::int64_t>(number);
   throw std::invalid_argument("number has no integer representation");
 }
 
-// The name of the value's type in Lua.
+// Returns the name of the value's type in Lua.
 const char* TypeOf(const FieldValue& value) {
   const auto* scalar = std::get_if<FieldScalar>(&value);
   if (scalar == nullptr) return "table";
@@ -46,7 +45,7 @@ void StoreNumber(const FieldValue& value, Number& field) {
     field = static_cast<Number>(*integer);
   } else if (const auto* number = std::get_if<double>(&scalar)) {
     if constexpr (std::is_integral_v<Number>) {
-      field = static_cast<Number>(Whole(*number));
+      field = static_cast<Number>(ToInteger(*number));
     } else {
       field = static_cast<Number>(*number);
     }
@@ -55,8 +54,8 @@ void StoreNumber(const FieldValue& value, Number& field) {
   }
 }
 
-// A float that looks like an integer gets a ".0", as in Lua.
-std::string TextOf(double number) {
+// Formats as Lua does: adds ".0" to a float that looks like an integer.
+std::string NumberToString(double number) {
   char digits[32];
   std::snprintf(digits, sizeof digits, "%.14g", number);
   const std::string text = digits;
@@ -99,7 +98,7 @@ void Store(const FieldValue& value, std::string& field) {
   } else if (const auto* integer = std::get_if<std::int64_t>(&scalar)) {
     field = std::to_string(*integer);
   } else {
-    field = TextOf(std::get<double>(scalar));
+    field = NumberToString(std::get<double>(scalar));
   }
 }
 

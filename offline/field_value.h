@@ -1,4 +1,4 @@
-// A script's value for a record's field, converted to the field's own type.
+// Converts values passed by scripts to the types of record fields.
 #pragma once
 
 #include <cstdint>
@@ -9,12 +9,13 @@
 
 namespace tarn::velora::offline {
 
-// Each throws std::invalid_argument, and leaves the field as it is, if the value does not fit the type: a number field
-// takes numbers and booleans, an integer field whole ones only, a string field any scalar, numbers in the form that Lua
-// uses. A container field takes the containers that convert to it without loss (a list becomes
-// a map by its positions, counted from 1), each element as a field of the element's type would.
+// Store `value` in `field`, or throw std::invalid_argument and leave `field` unchanged if it cannot be converted:
+// - A number field takes numbers and booleans; an integer field takes no number with a fraction.
+// - A string field takes any scalar. Numbers are formatted as in Lua.
+// - A container field takes a container whose elements can be converted. A list becomes a map with its positions,
+//   counted from 1, as keys; a map becomes a list only if it is empty.
 void Store(const FieldValue& value, std::string& field);
-void Store(const FieldValue& value, std::int32_t& field);  // the low 32 bits
+void Store(const FieldValue& value, std::int32_t& field);  // stores the low 32 bits
 void Store(const FieldValue& value, std::int64_t& field);
 void Store(const FieldValue& value, float& field);
 void Store(const FieldValue& value, double& field);

@@ -1,4 +1,4 @@
-// JSON strings. Bytes from 0x80 on are taken to be UTF-8 already.
+// Strings are assumed to be UTF-8: bytes from 0x80 on are copied.
 #include "offline/json.h"
 
 #include <charconv>
@@ -9,7 +9,8 @@
 namespace tarn::velora::offline {
 namespace {
 
-// The shortest string that reads back as the same number: 0.99, not 0.99000000953674. JSON knows no infinity.
+// Appends the shortest string that converts back to the same number: 0.99, not 0.99000000953674. JSON has no infinity
+// and no NaN; both become null.
 template <class Number>
 void AppendNumber(std::string& json, Number number) {
   char text[32];

@@ -15,21 +15,21 @@ namespace {
 constexpr std::int32_t kBindOk = 130;
 constexpr std::int32_t kBindFailed = -130;
 
-// For a login or a switch of accounts: the player is logged in if the code is 0.
+// Replies to a login or a switch of accounts. The player is logged in afterwards if the code is 0.
 void ReplyLogin(const Operation& call) {
   const auto code = call.Code();
   Reply({MakeEvent<events::LoginDone>(code)}, [code] { LockedState()->loggedIn = code == kOk; });
 }
 
-// For what needs the SDK to have started.
+// Starts an operation that needs zvInit to have completed.
 Operation CallStarted(const char* operation) {
   const Operation call = Call(operation);
-  if (!Get(&State::initialised)) Doubt(operation, "the SDK has not started");
+  if (!Get(&State::initialized)) Warn(operation, "the SDK has not started");
   return call;
 }
 
-// Whether `name` starts with `word` and no letter of the same case follows: "INT_FPS", "int_fps" and "intFps" start
-// with a word, "interval" does not.
+// Returns whether `name` starts with `word` and no letter of the same case follows: true for "INT_FPS", "int_fps" and
+// "intFps", false for "interval".
 bool StartsWithWord(const char* name, std::string_view word) {
   if (!std::string_view(name).starts_with(word)) return false;
   const char firstLetter = word[0] < 'a' ? 'A' : 'a';
@@ -37,26 +37,27 @@ bool StartsWithWord(const char* name, std::string_view word) {
   return next < firstLetter || next >= firstLetter + 26;
 }
 
-// The SDK gets a bare pointer and, as the SDK itself would, relies on the script to pass the type that the option's
-// name asks for: a 32-bit integer for "int", a one-byte flag for "bool", else a zero-terminated string.
+// Returns the option's value in the form of call lines. Its type follows from the option's name: a 32-bit integer for
+// "int", a one-byte flag for "bool", else a zero-terminated string. As with the SDK itself, a pointer to another type
+// is undefined behaviour.
 std::string OptionValue(const char* name, const void* value) {
   if (name == nullptr || value == nullptr) return "null";
   if (StartsWithWord(name, "int") || StartsWithWord(name, "INT")) {
     std::int32_t number = 0;
     std::memcpy(&number, value, sizeof number);
-    return Joined(number);
+    return FormatArguments(number);
   }
   if (StartsWithWord(name, "bool") || StartsWithWord(name, "BOOL")) {
-    return Joined(*static_cast<const unsigned char*>(value) != 0);
+    return FormatArguments(*static_cast<const unsigned char*>(value) != 0);
   }
-  return Joined(static_cast<const char*>(value));
+  return FormatArguments(static_cast<const char*>(value));
 }
 
 }  // namespace
 
 void zvInit() {
   const auto code = Call(__func__).Code();
-  Reply({MakeEvent<events::FinishInit>(code)}, [code] { LockedState()->initialised = code == kOk; });
+  Reply({MakeEvent<events::FinishInit>(code)}, [code] { LockedState()->initialized = code == kOk; });
 }
 
 void zvLogin() { ReplyLogin(CallStarted(__func__)); }
@@ -75,8 +76,7 @@ void zvGuestBind() {
   Reply({MakeEvent<events::LoginDone>(code)}, [code] { LockedState()->bound = code == kBindOk; });
 }
 
-// The manager and pause views close at once, since there is nobody to look at them. If the answer is false, they do not
-// open.
+// The manager and pause views close at once. If the canned result is false, they do not open and no event follows.
 void zvOpenManager() {
   if (Call(__func__).Flag(true)) Reply({MakeEvent<events::CloseManagerView>()});
 }
@@ -106,10 +106,10 @@ void setJFSauthWithKey(const std::string& key, const std::string& value, bool fl
   Call(__func__, key, value, flag);
 }
 
-bool isInit() { return Call(__func__).Flag(Get(&State::initialised)); }
+bool isInit() { return Call(__func__).Flag(Get(&State::initialized)); }
 bool hasLogin() { return Call(__func__).Flag(Get(&State::loggedIn)); }
 
-// Identifiers show that there is no real service.
+// The default identifiers show that they come from the offline runtime.
 bool getChannel(std::string& out) { return Call(__func__).Text("offline", out); }
 bool getAppChannel(std::string& out) { return Call(__func__).Text("offline_app", out); }
 bool getPlatform(std::string& out) { return Call(__func__).Text("offline_platform", out); }
@@ -157,7 +157,7 @@ bool isBinded(const std::string& text) { return Call(__func__, text).Flag(Get(&S
 
 bool zvHasPlatform(const std::string& text) { return Call(__func__, text).Flag(text == "offline_platform"); }
 
-// A feature exists if the number property of its name is set and not 0.
+// Returns true if the integer property of the feature's name is set and not 0.
 bool hasFeature(const std::string& feature) {
   return Call(__func__, feature).Flag(Find(&State::numberProperties, feature).value_or(0) != 0);
 }
@@ -178,9 +178,9 @@ void zvLumoSetOption(const char* name, const void* value) { Call(__func__, name,
 
 void setCmdLineParameter(const char* text) {
   Call(__func__, text);
-  std::optional<std::string> fresh;
-  if (text != nullptr) fresh = text;
-  LockedState()->commandLine.swap(fresh);
+  std::optional<std::string> newValue;
+  if (text != nullptr) newValue = text;
+  LockedState()->commandLine.swap(newValue);
 }
 
 // The pointer is valid until the parameter is set or read again, or the runtime is reset.
@@ -189,8 +189,8 @@ const char* getCmdLineParameter() {
   if (!Call(__func__).Text(Get(&State::commandLine), answer)) return nullptr;
   LockedState state;
   if (state->commandLine == answer) return state->commandLine->c_str();
-  state->answeredCommandLine.swap(answer);
-  return state->answeredCommandLine.c_str();
+  state->commandLineAnswer.swap(answer);
+  return state->commandLineAnswer.c_str();
 }
 
 }  // namespace tarn::velora

@@ -1,4 +1,4 @@
-// The log library: named channels, lines to stderr and to TakeLog. Logging never throws.
+// The log library. Writes lines to stderr and keeps them for TakeLog. Logging never throws.
 #include "platform/log.h"
 
 #include <algorithm>
@@ -31,19 +31,19 @@ struct LogState {
   std::vector<std::string> channels;  // the id is the index plus one
 };
 
-// Never destroyed: lines may be logged while the process ends.
-LogState& TheLog() {
+// Never destroyed: static destructors may log.
+LogState& GetLogState() {
   static LogState& log = *new LogState;
   return log;
 }
 
 std::string ChannelName(std::uint32_t channel) {
-  LogState& log = TheLog();
+  LogState& log = GetLogState();
   std::lock_guard lock(log.mutex);
   return channel >= 1 && channel <= log.channels.size() ? log.channels[channel - 1] : "?";
 }
 
-// Appends the formatted text, of any length.
+// Appends the formatted string, which may have any length.
 void AppendFormatted(std::string& line, const char* format, std::va_list arguments) {
   std::va_list again;
   va_copy(again, arguments);
@@ -59,21 +59,21 @@ void AppendFormatted(std::string& line, const char* format, std::va_list argumen
   line.pop_back();
 }
 
-// If `isError`, the level is printed in red when colours are on.
+// Prints the level in red if `isError` and colours are on.
 void Write(std::uint32_t channel, const char* level, bool isError, const char* format, std::va_list arguments) {
   try {
     const std::string start = "[" + ChannelName(channel) + "] ";
     std::string rest = " ";
     if (format != nullptr) AppendFormatted(rest, format, arguments);
     std::string line = start + level + rest;
-    if (TheLog().toStderr) {
-      const bool red = isError && TheLog().colour;
+    if (GetLogState().toStderr) {
+      const bool red = isError && GetLogState().colour;
       std::fprintf(stderr, "%s\n", red ? (start + "\033[31m" + level + "\033[0m" + rest).c_str() : line.c_str());
     }
-    if (auto* observer = velora::offline::TheObserver()) observer->OnLog(line);
-    TheLog().lines.Add(std::move(line));
+    if (auto* observer = velora::offline::GetObserver()) observer->OnLog(line);
+    GetLogState().lines.Add(std::move(line));
   } catch (const std::exception& error) {
-    std::fprintf(stderr, "[?] ERROR a log line is lost: %s\n", error.what());
+    std::fprintf(stderr, "[?] ERROR a log line is dropped: %s\n", error.what());
   }
 }
 
@@ -81,7 +81,7 @@ void Write(std::uint32_t channel, const char* level, bool isError, const char* f
 
 std::uint32_t RegisterChannel(const char* name) {
   const std::string text = name == nullptr ? "" : name;
-  LogState& log = TheLog();
+  LogState& log = GetLogState();
   std::lock_guard lock(log.mutex);
   const auto found = std::find(log.channels.begin(), log.channels.end(), text);
   const auto index = found - log.channels.begin();
@@ -109,8 +109,8 @@ void LogError(std::uint32_t channel, const char* format, ...) {
 
 namespace tarn::velora::offline {
 
-std::vector<std::string> TakeLog() { return log::TheLog().lines.Take(); }
-void SetLogToStderr(bool enabled) { log::TheLog().toStderr = enabled; }
-void SetLogColour(bool enabled) { log::TheLog().colour = enabled; }
+std::vector<std::string> TakeLog() { return log::GetLogState().lines.Take(); }
+void SetLogToStderr(bool enabled) { log::GetLogState().toStderr = enabled; }
+void SetLogColour(bool enabled) { log::GetLogState().colour = enabled; }
 
 }  // namespace tarn::velora::offline

@@ -1,4 +1,4 @@
-// The names under which SetAnswer knows the operations.
+// The operation names that SetAnswer accepts.
 #include <span>
 #include <string_view>
 

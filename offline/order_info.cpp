@@ -10,7 +10,7 @@ namespace {
 
 class Order final : public OrderInfo, public Record {
  public:
-  explicit Order(std::string madeWith) : Record("OrderInfo", std::move(madeWith)) {}
+  explicit Order(std::string arguments) : Record("OrderInfo", std::move(arguments)) {}
 
 #define RECORD_CLASS "OrderInfo"
 #define RECORD_FIELDS "platform/order_info.def"
@@ -22,8 +22,8 @@ class Order final : public OrderInfo, public Record {
 
   bool toString(std::string& out) override { return TextForm("OrderInfo.toString", *this, out); }
 
-  // What the registry knows of the product. Only for an order that nobody else has yet.
-  void Describe(const ProductInfo& product) {
+  // Copies the product's fields. Takes no lock, so the order must not be shared yet.
+  void CopyFields(const ProductInfo& product) {
     productName_ = product.productName;
     productPrice_ = product.productPrice;
     productExchangeRatio_ = product.exchangeRatio;
@@ -59,10 +59,10 @@ void SetProduct(ProductInfo product) {
 
 std::shared_ptr<OrderInfo> OrderInfo::New(const std::string& productId) {
   offline::Call("OrderInfo.New", productId);
-  const auto order = offline::Produce<offline::Order>("OrderInfo.New", offline::Joined(productId));
+  const auto order = offline::CreateRecord<offline::Order>("OrderInfo.New", offline::FormatArguments(productId));
   if (order == nullptr) return nullptr;
   order->productId_ = productId;
-  if (const auto product = offline::Find(&offline::State::products, productId)) order->Describe(*product);
+  if (const auto product = offline::Find(&offline::State::products, productId)) order->CopyFields(*product);
   return order;
 }
 
@@ -87,7 +87,7 @@ bool OrderInfo::hasProduct(const std::shared_ptr<OrderInfo>& order) {
   return call.Flag(registered);
 }
 
-// Registers the bare id; a product that is known already keeps what is known of it.
+// Registers a product with only an id. Does nothing if the id is registered already.
 void OrderInfo::regProduct(const std::string& productId) {
   offline::Call("OrderInfo.regProduct", productId);
   ProductInfo product;

@@ -8,7 +8,7 @@ namespace {
 
 class Pad final : public PadRecord, public Record {
  public:
-  explicit Pad(std::string madeWith) : Record("PadRecord", std::move(madeWith)) {}
+  explicit Pad(std::string arguments) : Record("PadRecord", std::move(arguments)) {}
 
 #define RECORD_CLASS "PadRecord"
 #define RECORD_FIELDS "platform/pad_record.def"

@@ -38,7 +38,7 @@ std::string ProductIdOf(OrderInfo& order) {
   return productId;
 }
 
-// Sets the order's status and, if it has none, an id. An order that passed is added to the checked orders.
+// Sets the order's status and, if it has none, its id. Adds an order that has passed to the checked orders.
 void FinishCheck(const std::shared_ptr<OrderInfo>& order, std::int32_t status) {
   if (OrderIdOf(*order).empty()) {
     const std::int32_t number = ++LockedState()->lastOrderNumber;
@@ -56,7 +56,7 @@ void FinishConsume(const std::shared_ptr<OrderInfo>& order, std::int32_t status)
   if (status == kServerCheckOk) std::erase(LockedState()->checkedOrders, order);
 }
 
-// Returns the store's description of an item, from the product registry; for an unknown one, only the id is known.
+// Returns the store item of a product, made from the product registry. For an unregistered product it has only the id.
 std::shared_ptr<SkuDetailsInfo> DescribeSku(const std::string& type, const std::string& productId) {
   const ProductInfo product = Find(&State::products, productId).value_or(ProductInfo());
   const double price = std::isfinite(product.productPrice) ? static_cast<double>(product.productPrice) : 0;
@@ -77,7 +77,7 @@ std::shared_ptr<SkuDetailsInfo> DescribeSku(const std::string& type, const std::
 
 }  // namespace
 
-// The event has one item per id, or none if the answer is false.
+// The event has one item per id, or none if the canned result is false.
 void zvQuerySkuDetails(const std::string& type, const StringList& productIds) {
   std::vector<std::shared_ptr<SkuDetailsInfo>> skus;
   if (Call(__func__, type, productIds).Flag(true)) {
@@ -90,7 +90,8 @@ void zvCheckOrder(const std::shared_ptr<OrderInfo>& order) {
   const auto status = Call(__func__, order).Code(kSdkCheckOk, kSdkCheckFailed);
   if (order == nullptr) return;
   const std::string productId = ProductIdOf(*order);
-  if (!Find(&State::products, productId)) Doubt(__func__, "the product " + Joined(productId) + " was never registered");
+  if (!Find(&State::products, productId))
+    Warn(__func__, "the product " + FormatArguments(productId) + " was never registered");
   Reply({MakeEvent<events::OrderCheckDone>(order)}, [order, status] { FinishCheck(order, status); });
 }
 
@@ -110,7 +111,7 @@ void zvGetCheckedOrders(std::vector<std::shared_ptr<OrderInfo>>& out) {
 
 void zvRemoveCheckedOrders(const std::string& orderId) {
   Call(__func__, orderId);
-  auto removed = Get(&State::checkedOrders);  // the ids are read without the lock
+  auto removed = Get(&State::checkedOrders);  // a copy, since ids must be read without the lock
   std::erase_if(removed, [&](const auto& order) { return order == nullptr || OrderIdOf(*order) != orderId; });
   LockedState state;
   std::erase_if(state->checkedOrders,

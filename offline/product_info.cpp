@@ -6,9 +6,10 @@
 
 namespace tarn::velora {
 
-// A product is a plain value that was made with nothing; its id tells call lines which one it is.
+// Call lines identify a product by its id, since it is a plain value without constructor arguments.
 bool toString(const ProductInfo& product, std::string& out) {
-  const std::string name = "ProductInfo(" + (product.productId.empty() ? "" : offline::Joined(product.productId)) + ")";
+  const std::string name =
+      "ProductInfo(" + (product.productId.empty() ? "" : offline::FormatArguments(product.productId)) + ")";
   const offline::Operation call = offline::Call("ProductInfo.toString", offline::Verbatim{name});
   offline::JsonObject object;
 #define VELORA_FIELD(name, family) object.AddUnlessDefault(#name, product.name);

@@ -9,7 +9,7 @@ namespace {
 
 class RankQuery final : public QueryRankInfo, public Record {
  public:
-  explicit RankQuery(std::string madeWith) : Record("QueryRankInfo", std::move(madeWith)) {}
+  explicit RankQuery(std::string arguments) : Record("QueryRankInfo", std::move(arguments)) {}
 
 #define RECORD_CLASS "QueryRankInfo"
 #define RECORD_FIELDS "platform/query_rank_info.def"
@@ -23,12 +23,12 @@ class RankQuery final : public QueryRankInfo, public Record {
 
 std::shared_ptr<QueryRankInfo> QueryRankInfo::New() {
   offline::Call("QueryRankInfo.New");
-  return offline::Produce<offline::RankQuery>("QueryRankInfo.New", "");
+  return offline::CreateRecord<offline::RankQuery>("QueryRankInfo.New", "");
 }
 
 std::shared_ptr<QueryRankInfo> QueryRankInfo::New(const std::string& text) {
   offline::Call("QueryRankInfo.New", text);
-  return offline::Produce<offline::RankQuery>("QueryRankInfo.New", offline::Joined(text));
+  return offline::CreateRecord<offline::RankQuery>("QueryRankInfo.New", offline::FormatArguments(text));
 }
 
 }  // namespace tarn::velora

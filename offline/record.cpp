@@ -1,4 +1,3 @@
-// The common part of records, and their count.
 #include "offline/record.h"
 
 #include <atomic>
@@ -10,8 +9,8 @@ std::atomic<std::size_t> liveRecords = 0;
 
 }  // namespace
 
-Record::Record(const char* recordClass, std::string madeWith)
-    : recordClass_(recordClass), madeWith_(std::move(madeWith)) {
+Record::Record(const char* recordClass, std::string arguments)
+    : recordClass_(recordClass), arguments_(std::move(arguments)) {
   ++liveRecords;
 }
 

@@ -1,5 +1,5 @@
-// What the runtime's records have in common: fields that any thread may read and write, filling by name, string forms.
-// record_fields.inc makes a class's members and accessors from its .def file.
+// The base class of the runtime's records. Any thread may call their getters and setters. record_fields.inc defines a
+// class's members and accessors from its .def file.
 #pragma once
 
 #include <cstdint>
@@ -23,15 +23,15 @@ namespace tarn::velora::offline {
 
 class Record {
  public:
-  // `madeWith` is the arguments that the record was made with, in the form of call lines.
-  Record(const char* recordClass, std::string madeWith);
+  // `arguments` are those of the record's `New`, in the form of call lines.
+  Record(const char* recordClass, std::string arguments);
   Record(const Record&) = delete;
   Record& operator=(const Record&) = delete;
 
   const char* RecordClass() const { return recordClass_; }
-  const std::string& MadeWith() const { return madeWith_; }
+  const std::string& Arguments() const { return arguments_; }
 
-  // Returns the fields of the record, which is `self`, that differ from their defaults, as JSON.
+  // Returns the fields that differ from their defaults as JSON. `self` is this record as its own class.
   template <class Derived>
   std::string Json(const Derived& self) const {
     JsonObject object;
@@ -43,7 +43,7 @@ class Record {
  protected:
   ~Record();
 
-  // The getters and setters of a class, by shape. Each runs the hook first.
+  // The bodies of getters and setters. Each runs the hook first. Getters return the canned result if its type fits.
   bool ReadText(const char* operation, const std::string& field, std::string& out) const;
   bool ReadMap(const char* operation, const StringMap& field, StringMap& out) const;
 
@@ -54,7 +54,6 @@ class Record {
     return field;
   }
 
-  // A set answer that is not a number is ignored.
   template <class Number>
   Number ReadNumber(const char* operation, const Number& field) const {
     const Number stored = Read(operation, field);
@@ -71,26 +70,26 @@ class Record {
   template <class Value>
   void Write(const char* operation, Value& field, families::Parameter<Value> value) {
     RunHook(operation);
-    Value fresh = value;
-    std::lock_guard lock(mutex_);  // released before the old value is
-    std::swap(field, fresh);
+    Value newValue = value;
+    std::lock_guard lock(mutex_);  // declared last, so that the old value is destroyed without the lock
+    std::swap(field, newValue);
   }
 
-  // A string producer of the record: call line, set answer, else `Class(made with) {fields}`.
+  // The body of toString. The default result is `Class(arguments) {fields}`.
   template <class Derived>
   bool TextForm(const char* operation, const Derived& self, std::string& out) const {
     const auto& record = static_cast<const Record&>(self);
-    return Call(operation, record).Text(Joined(record) + " " + Json(self), out);
+    return Call(operation, record).Text(FormatArguments(record) + " " + Json(self), out);
   }
 
  private:
   const char* const recordClass_;
-  const std::string madeWith_;
-  mutable std::mutex mutex_;  // of the fields
+  const std::string arguments_;
+  mutable std::mutex mutex_;  // guards the fields of the derived class
 };
 
-// Sets the fields named in `fields` of a record that nobody else has yet. Throws std::invalid_argument for a name that
-// the class does not have and for a value that does not fit.
+// Sets the fields named in `fields`. Takes no lock, so the record must not be shared yet. Throws std::invalid_argument
+// if the class has no such field or the value does not convert to its type.
 template <class Derived>
 void Fill(Derived& record, const Fields& fields) {
   for (const auto& [name, value] : fields) {
@@ -108,7 +107,7 @@ void Fill(Derived& record, const Fields& fields) {
   }
 }
 
-// A new record with those fields. Throws as Fill does.
+// Returns a new record with those fields. Throws as Fill does.
 template <class Derived>
 std::shared_ptr<Derived> MakeFilled(const Fields& fields) {
   auto record = std::make_shared<Derived>(std::string());
@@ -116,11 +115,11 @@ std::shared_ptr<Derived> MakeFilled(const Fields& fields) {
   return record;
 }
 
-// Returns the result of a factory: a new record, or none if the set answer is false.
+// Returns a new record, or null if the operation's canned result is false.
 template <class Derived>
-std::shared_ptr<Derived> Produce(const char* operation, std::string madeWith) {
+std::shared_ptr<Derived> CreateRecord(const char* operation, std::string arguments) {
   if (!Operation(operation).Flag(true)) return nullptr;
-  return std::make_shared<Derived>(std::move(madeWith));
+  return std::make_shared<Derived>(std::move(arguments));
 }
 
 }  // namespace tarn::velora::offline

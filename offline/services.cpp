@@ -25,12 +25,12 @@ void ReplyClosed(const Operation& call) {
   if (call.Flag(true)) Reply({MakeEvent<events::ShowViewClosed>()});
 }
 
-// No picture is drawn.
+// No image file is written; the event only repeats its path.
 void ReplyQRCode(const Operation& call, const std::string& path) {
   Reply({MakeEvent<events::CreateQRCodeDone>(call.EventText(path))});
 }
 
-// The scanner reads the string that it was started with.
+// The scanner reads the string passed to it.
 void ReplyScan(const Operation& call, const std::string& text) {
   const auto code = call.Code(kOk, kScanFailed);
   Reply({MakeEvent<events::CodeScannerFinish>(code, code == kOk ? call.EventText(text) : "")});
@@ -72,7 +72,7 @@ void zvCancelLocalNotification(std::int32_t id) {
   });
 }
 
-// Whether a local notification was sent and none cancelled since.
+// Returns true if a local notification was sent and none was cancelled since.
 bool zvHasNotification() { return Call(__func__).Flag(Get(&State::notificationPending)); }
 
 void zvConnectToChannel() {
@@ -163,7 +163,7 @@ bool isCCRecording() { return Call(__func__).Flag(Get(&State::recording)); }
 bool isCCRecordMic() { return Call(__func__).Flag(Get(&State::recording)); }
 std::int32_t getCCPerformance() { return Call(__func__).Number(ConstProp::CC_PERFORMANCE_GOOD); }
 
-// 1 while the recording service runs, else 0.
+// Returns 1 while the recording service runs, else 0.
 std::int32_t getCCWindowState() { return Call(__func__).Number(Get(&State::recording) ? 1 : 0); }
 
 void zvPushGameVoice(const char* data, std::size_t size, std::uint32_t sampleRate, std::uint32_t bitsPerSample,

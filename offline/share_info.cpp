@@ -10,7 +10,7 @@ namespace {
 
 class ShareRequest final : public ShareInfo, public Record {
  public:
-  explicit ShareRequest(std::string madeWith) : Record("ShareInfo", std::move(madeWith)) {}
+  explicit ShareRequest(std::string arguments) : Record("ShareInfo", std::move(arguments)) {}
 
 #define RECORD_CLASS "ShareInfo"
 #define RECORD_FIELDS "platform/share_info.def"
@@ -19,8 +19,8 @@ class ShareRequest final : public ShareInfo, public Record {
   bool toString(std::string& out) override { return TextForm("ShareInfo.toString", *this, out); }
 };
 
-std::shared_ptr<ShareInfo> MakeShare(std::string madeWith) {
-  const auto share = Produce<ShareRequest>("ShareInfo.New", std::move(madeWith));
+std::shared_ptr<ShareInfo> MakeShare(std::string arguments) {
+  const auto share = CreateRecord<ShareRequest>("ShareInfo.New", std::move(arguments));
   if (share != nullptr) Fill(*share, Get(&State::newShare));
   return share;
 }
@@ -41,7 +41,7 @@ std::shared_ptr<ShareInfo> ShareInfo::New() {
 
 std::shared_ptr<ShareInfo> ShareInfo::New(const std::string& text) {
   offline::Call("ShareInfo.New", text);
-  return offline::MakeShare(offline::Joined(text));
+  return offline::MakeShare(offline::FormatArguments(text));
 }
 
 }  // namespace tarn::velora

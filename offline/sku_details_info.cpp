@@ -1,4 +1,4 @@
-// The runtime's store items. The factory's strings fill the fields in row order.
+// The runtime's store items. The arguments of New are the fields in row order.
 #include "platform/sku_details_info.h"
 
 #include "offline/record.h"
@@ -9,7 +9,7 @@ namespace {
 
 class Sku final : public SkuDetailsInfo, public Record {
  public:
-  explicit Sku(std::string madeWith) : Record("SkuDetailsInfo", std::move(madeWith)) {}
+  explicit Sku(std::string arguments) : Record("SkuDetailsInfo", std::move(arguments)) {}
 
 #define RECORD_CLASS "SkuDetailsInfo"
 #define RECORD_FIELDS "platform/sku_details_info.def"
@@ -29,8 +29,8 @@ std::shared_ptr<SkuDetailsInfo> SkuDetailsInfo::New(const std::string& first, co
                                                     const std::string& fifth, const std::string& sixth,
                                                     const std::string& seventh) {
   offline::Call("SkuDetailsInfo.New", first, second, third, fourth, fifth, sixth, seventh);
-  const auto sku = offline::Produce<offline::Sku>("SkuDetailsInfo.New",
-                                                  offline::Joined(first, second, third, fourth, fifth, sixth, seventh));
+  const auto sku = offline::CreateRecord<offline::Sku>(
+      "SkuDetailsInfo.New", offline::FormatArguments(first, second, third, fourth, fifth, sixth, seventh));
   if (sku == nullptr) return nullptr;
   const std::string* const texts[] = {&first, &second, &third, &fourth, &fifth, &sixth, &seventh};
   auto text = std::begin(texts);

@@ -20,7 +20,7 @@ using Accounts = std::vector<std::shared_ptr<AccountInfo>>;
 
 enum class Relation { kSelf, kFriend, kInvitee, kInviter };
 
-// The accounts that the runtime knows.
+// A built-in account.
 struct Person {
   const char* accountId;
   const char* nickname;
@@ -56,13 +56,13 @@ std::shared_ptr<AccountInfo> AccountOf(const Person& person) {
   return account;
 }
 
-// Returns no accounts if the operation's answer is false.
-template <class Chosen>
-Accounts AccountsOf(const Operation& call, Chosen chosen) {
+// Returns the accounts that `predicate` accepts, or none if the operation's canned result is false.
+template <class Predicate>
+Accounts AccountsOf(const Operation& call, Predicate predicate) {
   Accounts accounts;
   if (!call.Flag(true)) return accounts;
   for (const Person& person : kPeople) {
-    if (chosen(person)) accounts.push_back(AccountOf(person));
+    if (predicate(person)) accounts.push_back(AccountOf(person));
   }
   return accounts;
 }
@@ -71,7 +71,7 @@ auto HasRelation(Relation relation) {
   return [relation](const Person& person) { return person.relation == relation; };
 }
 
-// Returns as many accounts as the query asks for, the best first.
+// Returns as many accounts as the query requests, best first.
 Accounts Ranking(QueryRankInfo& query) {
   const ControlPause pause;
   std::int32_t count = query.get_count();
@@ -134,7 +134,7 @@ void zvApplyFriend(const std::string& accountId) {
   Reply({MakeEvent<events::QueryApplyFriendFinished>(Call(__func__, accountId).Flag(true))});
 }
 
-// The event repeats both strings. If the answer is false, its list is empty.
+// The event's list has both strings, or is empty if the canned result is false.
 void zvInviteFriendList(const std::string& first, const std::string& second) {
   const bool done = Call(__func__, first, second).Flag(true);
   Reply({MakeEvent<events::QueryInviteFriendListFinished>(done ? StringList{first, second} : StringList())});
@@ -154,7 +154,7 @@ void zvQueryRank(const std::shared_ptr<QueryRankInfo>& query) {
   Reply({MakeEvent<events::QueryRankFinished>(done ? Ranking(*query) : Accounts())});
 }
 
-// Every quest that is shown is completed at once; the event has its number.
+// Every quest is completed at once, with an event that has its number.
 void zvDisplayQuests(const std::int32_t* quests, std::size_t count) {
   const std::span shown(quests, quests == nullptr ? 0 : count);
   const bool done = Call(__func__, shown, count).Flag(true);
@@ -173,7 +173,7 @@ void zvShare(const std::shared_ptr<ShareInfo>& share) {
 
 bool zvCheckArgs(const std::shared_ptr<ShareInfo>& share) { return Call(__func__, share).Flag(share != nullptr); }
 
-// The text of the last request that was shared, or its title if it has no text.
+// Returns the text of the last shared request, or its title if it has no text.
 bool getLastShareMessage(std::string& out) { return Call(__func__).Text(Get(&State::lastShareMessage), out); }
 
 void zvMoreGame() { Call(__func__); }

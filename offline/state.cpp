@@ -16,25 +16,25 @@ struct Global {
 };
 
 // Never destroyed: the runtime's thread may still be running when the process ends.
-Global& TheGlobal() {
+Global& GetGlobal() {
   static Global& global = *new Global;
   return global;
 }
 
 }  // namespace
 
-LockedState::LockedState() : lock_(TheGlobal().mutex) {}
-State& LockedState::operator*() { return TheGlobal().state; }
+LockedState::LockedState() : lock_(GetGlobal().mutex) {}
+State& LockedState::operator*() { return GetGlobal().state; }
 
 void SetCheckedOrders(std::vector<std::shared_ptr<OrderInfo>> orders) { LockedState()->checkedOrders.swap(orders); }
 
 std::vector<download::SyncDownloadHandler*> Handlers() { return Get(&State::downloadHandlers); }
 
 void Reset() {
-  ForgetEvents();
-  State forgotten;  // destroyed without the lock, as are the records in it
-  std::swap(*LockedState(), forgotten);
-  ForgetAnswers();
+  ClearEvents();
+  State old;  // destroyed without the lock, since destroying a record may call back
+  std::swap(*LockedState(), old);
+  ClearAnswers();
   TakeCalls();
   TakeLog();
 }

@@ -19,7 +19,7 @@
 namespace tarn::velora::offline {
 
 struct State {
-  bool initialised = false;
+  bool initialized = false;
   bool loggedIn = false;
   bool bound = false;
 
@@ -27,7 +27,7 @@ struct State {
   StringMap textProperties;
   IntMap numberProperties;
   std::optional<std::string> commandLine;
-  std::string answeredCommandLine;  // a set answer, kept for the pointer that was returned
+  std::string commandLineAnswer;  // a canned result, kept since getCmdLineParameter returned a pointer to it
 
   std::unordered_map<std::string, ProductInfo> products;
   IntMap productTypes;
@@ -48,7 +48,8 @@ struct State {
   bool downloadFinish2 = true;
 };
 
-// The state, locked while this lives: `LockedState()->loggedIn`. Nothing may be called out to while it lives.
+// Locks the state while this lives, as in `LockedState()->loggedIn`. Must not live while records, hooks or the observer
+// are called, since those may lock the state again.
 class LockedState {
  public:
   LockedState();
@@ -59,14 +60,14 @@ class LockedState {
   std::lock_guard<std::mutex> lock_;
 };
 
-// Returns a copy of a member: `Get(&State::loggedIn)`.
+// Returns a copy of a member, as in `Get(&State::loggedIn)`.
 template <class Value>
 Value Get(Value State::*member) {
   LockedState state;
   return (*state).*member;
 }
 
-// Returns a copy of the value under `key` in a map of the state.
+// Returns a copy of the value under `key` in a map of the state, or nullopt if there is none.
 template <class Map>
 std::optional<typename Map::mapped_type> Find(Map State::*map, const std::string& key) {
   LockedState state;

@@ -12,7 +12,9 @@ class PlayersObserver final : public tarn::velora::offline::Observer {
   void OnCall(const std::string& line) override { MarkPoint(Track::kCalls, line); }
   void OnLog(const std::string& line) override { ReadLogLine(line); }
   void OnEvents(const std::vector<std::shared_ptr<tarn::velora::Event>>& events) override { TakeEvents(events); }
-  void OnDoubt(const char* operation, const std::string& reason) override { ReportDoubt(operation, reason.c_str()); }
+  void OnWarning(const char* operation, const std::string& reason) override {
+    ReportWarning(operation, reason.c_str());
+  }
 };
 
 }  // namespace

@@ -136,7 +136,7 @@ void OpenStrict(lua_State* L) {
   OpenMissingNames(L);
 }
 
-void ReportDoubt(const char* operation, const char* reason) {
+void ReportWarning(const char* operation, const char* reason) {
   Report("%s: %s", call.name != nullptr && std::string_view(call.name) == operation ? call.text : operation, reason);
 }
 

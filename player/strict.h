@@ -10,7 +10,7 @@ namespace player {
 void OpenStrict(lua_State* L);
 
 // Reports that the running call of the operation is one that a real SDK would hardly accept.
-void ReportDoubt(const char* operation, const char* reason);
+void ReportWarning(const char* operation, const char* reason);
 
 // Watches the calls of those functions and reports each refused one. Raises nothing, allocates
 // nothing in Lua and leaves the stack as it was. Finalisers run without hooks: their calls are not seen and may hide
