@@ -2,14 +2,14 @@
 
 namespace player {
 
-std::string Mismatch(lua_State* L, int index, const char* expected) {
+std::string TypeMismatch(lua_State* L, int index, const char* expected) {
   const int type = lua_type(L, index);
   if (type == LUA_TNUMBER && std::string_view(expected) == "integer") return "number has no integer representation";
   return std::string(expected) + " expected, got " + (type == LUA_TNONE ? "no value" : lua_typename(L, type));
 }
 
-std::string_view CheckText(lua_State* L, int index) {
-  if (lua_type(L, index) != LUA_TSTRING) throw ArgumentError(index, Mismatch(L, index, "string"));
+std::string_view CheckString(lua_State* L, int index) {
+  if (lua_type(L, index) != LUA_TSTRING) throw ArgumentError(index, TypeMismatch(L, index, "string"));
   std::size_t length = 0;
   const char* text = lua_tolstring(L, index, &length);
   return {text, length};
@@ -23,7 +23,7 @@ bool ToInteger(lua_State* L, int index, lua_Integer& value) {
 
 lua_Integer CheckInteger(lua_State* L, int index) {
   lua_Integer value = 0;
-  if (!ToInteger(L, index, value)) throw ArgumentError(index, Mismatch(L, index, "integer"));
+  if (!ToInteger(L, index, value)) throw ArgumentError(index, TypeMismatch(L, index, "integer"));
   return value;
 }
 

@@ -1,5 +1,5 @@
-// The boundary of the player's Lua functions, which is the module's with argument errors added, and the checks of
-// arguments. The checks throw ArgumentError and make no Lua call that can raise.
+// The boundary of the player's Lua functions: the module's, with argument errors added. Check functions throw
+// ArgumentError and make no Lua call that can raise.
 #pragma once
 
 #include <algorithm>
@@ -14,7 +14,7 @@
 
 namespace player {
 
-// An argument that cannot be used: its number, and why.
+// The error for a bad argument: its number and the reason.
 class ArgumentError : public std::invalid_argument {
  public:
   ArgumentError(int argument, const std::string& reason) : std::invalid_argument(reason), argument_(argument) {}
@@ -24,16 +24,16 @@ class ArgumentError : public std::invalid_argument {
   int argument_;
 };
 
-// A function's name, as a template argument.
+// A string that can be a template argument.
 template <std::size_t size>
 struct Name {
   constexpr Name(const char (&source)[size]) { std::copy_n(source, size, text); }
   char text[size];
 };
 
-// The lua_CFunction around a body, as luavelora::Entry is in the module. An ArgumentError becomes an error in the form
-// of Lua's own, "bad argument #1 to 'post' (string expected, got nil)". The name is always known, unlike in Lua, which
-// takes it from the call.
+// The lua_CFunction that calls `body`, as luavelora::Entry in the module. Raises an ArgumentError in the form of
+// luaL_argerror, "bad argument #1 to 'post' (string expected, got nil)". Does not call it, since it takes the
+// function's name from the call, which may have none.
 template <Name name, luavelora::Outcome (*body)(lua_State*)>
 int Checked(lua_State* L) {
   int argument = 0;
@@ -53,19 +53,20 @@ int Checked(lua_State* L) {
   return outcome.results();
 }
 
-// The row of such a function in a registration list.
+// Returns the row of such a function in a registration list.
 template <Name name, luavelora::Outcome (*body)(lua_State*)>
 constexpr luaL_Reg Row() {
   return {name.text, Checked<name, body>};
 }
 
 // Returns "TYPE expected, got TYPE" for the value at `index`.
-std::string Mismatch(lua_State* L, int index, const char* expected);
+std::string TypeMismatch(lua_State* L, int index, const char* expected);
 
-// Returns the string at `index`, zero bytes included, valid while it is on the stack. A number is not a string.
-std::string_view CheckText(lua_State* L, int index);
+// Returns the string at `index`, which may contain zero bytes. Valid while it is on the stack. Numbers are not
+// converted.
+std::string_view CheckString(lua_State* L, int index);
 
-// Stores the integer at `index` and returns true, or returns false if there is none. A string is not a number.
+// Stores the integer at `index` and returns true, or returns false if there is none. Strings are not converted.
 bool ToInteger(lua_State* L, int index, lua_Integer& value);
 
 // Returns the integer at `index`.

@@ -1,6 +1,6 @@
-// lua_Debug::i_ci identifies a call: Lua uses one CallInfo per level of a coroutine's stack. An error that a script
-// catches removes calls without return events; those above a call are forgotten when it calls again or returns. A tail
-// call takes the level of its caller once the hook has run.
+// lua_Debug::i_ci identifies a call: Lua uses one CallInfo per level of a coroutine's stack. If a script catches an
+// error, calls end without return events; they are removed when their caller calls again or returns. A tail call takes
+// the level of its caller after the hook has run.
 #include "player/call_chain.h"
 
 #include <algorithm>
@@ -15,21 +15,21 @@ struct Call {
   const void* frame;
   int line;  // 0 if unknown
   lua_Debug info;
-  char name[64];  // a copy, since that of `info` may have been collected when the error is logged
+  char name[64];  // a copy, since `info.name` may be collected before the error is logged
 };
 
 constexpr std::size_t kMaxCalls = 100;
 Call chain[kMaxCalls];
 std::size_t length = 0;
 
-// Returns the index of the newest such call, or `length`.
+// Returns the index of the newest call with this frame, or `length` if there is none.
 std::size_t Find(lua_State* L, const void* frame) {
   for (std::size_t i = length; i > 0; --i)
     if (chain[i - 1].L == L && chain[i - 1].frame == frame) return i - 1;
   return length;
 }
 
-// Forgets the calls above the caller of the new call, and notes the caller's line.
+// Removes the calls above `caller`, which makes a new call, and stores the caller's line.
 void ReturnTo(lua_State* L, lua_Debug& caller) {
   const std::size_t index = Find(L, caller.i_ci);
   if (index == length) return;
@@ -51,7 +51,7 @@ void Add(lua_State* L, lua_Debug* event, const void* frame) {
   call.name[size] = '\0';
 }
 
-std::string NameOf(const Call& call) {
+std::string FunctionName(const Call& call) {
   const lua_Debug& info = call.info;
   const std::string name = std::string(" '") + call.name + "'";
   if (std::strcmp(info.namewhat, "global") == 0) return "function" + name;
@@ -62,7 +62,7 @@ std::string NameOf(const Call& call) {
 }
 
 // Returns the line in a message that begins with "SOURCE:LINE:", else 0.
-int LineIn(std::string_view message, const char* source) {
+int LineOfError(std::string_view message, const char* source) {
   if (!message.starts_with(source)) return 0;
   message.remove_prefix(std::strlen(source));
   int line = 0;
@@ -96,10 +96,10 @@ std::string ChainTraceback(std::size_t first, std::string_view message) {
   if (length == kMaxCalls) text += "\n\t...";
   for (std::size_t i = length; i > first; --i) {
     const Call& call = chain[i - 1];
-    const int line = i == length && length < kMaxCalls ? LineIn(message, call.info.short_src) : call.line;
+    const int line = i == length && length < kMaxCalls ? LineOfError(message, call.info.short_src) : call.line;
     text += std::string("\n\t") + call.info.short_src + ":";
     if (line > 0) text += std::to_string(line) + ":";
-    text += " in " + NameOf(call);
+    text += " in " + FunctionName(call);
     if (call.info.event == LUA_HOOKTAILCALL) text += "\n\t(...tail calls...)";
   }
   return text;

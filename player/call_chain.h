@@ -1,5 +1,5 @@
-// The chain of callers in a callback. The module calls callbacks without a message handler, so that the Lua stack is
-// gone when it logs an error; this copy of it is not.
+// The chain of active calls in a callback, for tracebacks. The module calls callbacks without a message handler, so the
+// Lua stack is already unwound when it logs an error. This is a copy of it.
 #pragma once
 
 #include <cstddef>
@@ -9,17 +9,18 @@
 
 namespace player {
 
-// Follows the calls and returns that a debug hook sees, in all coroutines. Raises nothing and allocates nothing.
+// Updates the chain; to be called by the debug hook for calls and returns in all coroutines. Raises nothing and
+// allocates nothing.
 void FollowCall(lua_State* L, lua_Debug* event);
 
-// Returns the number of calls that have not returned. Beyond a bound, calls are not followed.
+// Returns the number of active calls. Calls beyond the 100th are not counted.
 std::size_t ChainLength();
 
-// Forgets all calls.
+// Removes all calls.
 void ClearChain();
 
-// Returns Lua's traceback of the calls from the index `first` on. `message` is that of the error: for a Lua function,
-// it begins with the current position.
+// Returns a traceback, in Lua's format, of the calls from index `first` on. `message` is the error message; if it
+// begins with a position, this is the current line of the innermost call.
 std::string ChainTraceback(std::size_t first, std::string_view message);
 
 }  // namespace player

@@ -20,7 +20,7 @@ constexpr struct {
 #include "platform/records.def"
 };
 
-// A string in a fixed place. What does not fit is cut off.
+// Appends to a buffer, truncating what does not fit.
 class Line {
  public:
   explicit Line(CallText& text) : text_(text) { text_[0] = '\0'; }
@@ -62,7 +62,7 @@ void AddQuoted(Line& line, std::string_view text) {
   line.Add(length < text.size() ? "...\"" : "\"");
 }
 
-// Adds `number` as Lua prints it: never like an integer.
+// Adds `number` as Lua prints a float, with ".0" if it looks like an integer.
 void AddFloat(Line& line, double number) {
   char text[32];
   std::snprintf(text, sizeof text, "%.14g", number);
@@ -74,7 +74,7 @@ void AddObject(Line& line, lua_State* L, int index) {
   if (name == nullptr)
     line.Add("userdata");
   else
-    line.Add(FromUserType(L, index) == nullptr ? "finished %s" : "%s", name);
+    line.Add(FromUserType(L, index) == nullptr ? "finalized %s" : "%s", name);
 }
 
 void AddValue(Line& line, lua_State* L, int index) {

@@ -1,19 +1,19 @@
-// How reports of refused calls describe a call.
+// Descriptions of calls, for reports.
 #pragma once
 
 #include <lua.hpp>
 
 namespace player {
 
-// Room for a description, which is cut off if it is longer.
+// A buffer for a description. A longer description is truncated.
 using CallText = char[2048];
 
-// Describes the running call of `function`, which has only its arguments on the stack. Writes the position of the
-// calling script and the arguments, as in `shop.lua:12: zvUpdateRank("speed", table)`. For debug hooks: raises nothing,
-// allocates nothing in Lua and leaves the stack as it was.
+// Writes the position of the calling script and the running call of `function` with its arguments, as in
+// `shop.lua:12: zvUpdateRank("speed", table)`. Only the arguments must be on the stack. For debug hooks: raises
+// nothing, allocates nothing in Lua and leaves the stack unchanged.
 void DescribeCall(lua_State* L, const char* function, CallText& text);
 
-// Writes the position of the calling script, as in `shop.lua:12`. As DescribeCall otherwise.
+// Writes the position of the calling script, as in `shop.lua:12`. For debug hooks, like DescribeCall.
 void DescribePosition(lua_State* L, CallText& text);
 
 // Returns the name of the record class of the object at `index`, or null for any other value.

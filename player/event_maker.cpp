@@ -1,4 +1,4 @@
-// Reads payload values by their C++ type, fills each layout's fields in order, and finds the layout by the event's row.
+// Overloads of Read convert Lua values to the C++ types of payload fields.
 #include "player/event_maker.h"
 
 #include <cstdint>
@@ -22,12 +22,12 @@ namespace {
 
 using namespace tarn::velora;
 
-// A value on the Lua stack, the argument that it belongs to, and what to call it in an error message.
+// A value on the Lua stack: an argument, or an element of one.
 struct Value {
   lua_State* L;
   int index;
-  int argument;
-  std::string part = {};
+  int argument;           // for error messages, the argument's number
+  std::string part = {};  // and the path to the element, "element 2, field 'aid'"
 };
 
 [[noreturn]] void Fail(const Value& value, const std::string& text) {
@@ -35,11 +35,11 @@ struct Value {
 }
 
 [[noreturn]] void FailType(const Value& value, const std::string& expected) {
-  Fail(value, Mismatch(value.L, value.index, expected.c_str()));
+  Fail(value, TypeMismatch(value.L, value.index, expected.c_str()));
 }
 
-// The value on top of the stack, which belongs to `whole`.
-Value PartOnTop(const Value& whole, const std::string& part) {
+// Returns the value on top of the stack, which is the element `part` of `whole`.
+Value ElementOnTop(const Value& whole, const std::string& part) {
   return {whole.L, lua_gettop(whole.L), whole.argument, whole.part.empty() ? part : whole.part + ", " + part};
 }
 
@@ -49,14 +49,14 @@ void Read(const Value& value, lua_Integer& field) {
   if (!ToInteger(value.L, value.index, field)) FailType(value, "integer");
 }
 
-// An integer arrives as its low 32 bits.
+// Takes the low 32 bits.
 void Read(const Value& value, std::int32_t& field) {
   lua_Integer integer = 0;
   Read(value, integer);
   field = static_cast<std::int32_t>(static_cast<std::uint32_t>(integer));
 }
 
-// A flag may be given as the raw byte, to see what values other than 0 and 1 do.
+// Takes a boolean, or the raw byte, so that scripts can test values other than 0 and 1.
 void Read(const Value& value, std::uint8_t& field) {
   if (TypeOf(value) == LUA_TBOOLEAN) {
     field = lua_toboolean(value.L, value.index) != 0 ? 1 : 0;
@@ -87,7 +87,7 @@ void Read(const Value& value, std::optional<std::string>& field) { Read(value, f
 template <class Record>
 void Read(const Value& value, std::shared_ptr<Record>& field);
 
-// A table with gaps may claim any length.
+// The length of a table with gaps may be any number.
 constexpr std::size_t kMaxLength = 1 << 20;
 
 template <class Element>
@@ -97,7 +97,7 @@ void Read(const Value& value, std::vector<Element>& field) {
   if (length > kMaxLength) Fail(value, "list of at most " + std::to_string(kMaxLength) + " elements expected");
   for (std::size_t i = 1; i <= length; ++i) {
     lua_rawgeti(value.L, value.index, static_cast<lua_Integer>(i));
-    Read(PartOnTop(value, "element " + std::to_string(i)), field.emplace_back());
+    Read(ElementOnTop(value, "element " + std::to_string(i)), field.emplace_back());
     lua_pop(value.L, 1);
   }
 }
@@ -110,7 +110,7 @@ void ForEachPair(const Value& table, Visitor visit) {
     if (lua_type(table.L, -2) != LUA_TSTRING)
       Fail(table, "table with string keys expected, got " + std::string(luaL_typename(table.L, -2)) + " as a key");
     const std::string key = lua_tostring(table.L, -2);
-    visit(key, PartOnTop(table, "field '" + key + "'"));
+    visit(key, ElementOnTop(table, "field '" + key + "'"));
     lua_pop(table.L, 1);
   }
 }
@@ -135,7 +135,7 @@ void Read(const Value& value, offline::FieldScalar& field) {
   }
 }
 
-// A table with a first element is a list, any other a map.
+// A table with an element 1 is a list, any other table a map.
 offline::FieldValue ReadFieldValue(const Value& value) {
   if (TypeOf(value) != LUA_TTABLE) {
     offline::FieldScalar scalar;
@@ -154,7 +154,7 @@ offline::FieldValue ReadFieldValue(const Value& value) {
   return map;
 }
 
-// How the runtime makes a record from its fields.
+// The runtime's function that makes a record from its fields.
 template <class Record>
 constexpr std::shared_ptr<Record> (*kMake)(const offline::Fields&) = nullptr;
 template <>
@@ -177,8 +177,8 @@ std::shared_ptr<Record> MakeRecord(const Value& table) {
   }
 }
 
-// A record is a userdata of its class, which then shares it, or a table of fields; false, which unlike nil can be
-// inside a list, is an empty reference too.
+// Takes a userdata of the class, whose record the event then shares, or a table of fields. Nil is a null reference; so
+// is false, which unlike nil can be an element of a list.
 template <class Record>
 void Read(const Value& value, std::shared_ptr<Record>& field) {
   if (lua_toboolean(value.L, value.index) == 0) {
@@ -187,14 +187,14 @@ void Read(const Value& value, std::shared_ptr<Record>& field) {
     field = MakeRecord<Record>(value);
   } else if (CheckMetaTableInUserType(value.L, value.index, ClassNames<Record>::kMetatable)) {
     const auto* holder = luavelora::HolderIn<Record>(lua_touserdata(value.L, value.index));
-    if (holder == nullptr) Fail(value, ClassNames<Record>::kName + std::string(" expected, got a finished object"));
+    if (holder == nullptr) Fail(value, ClassNames<Record>::kName + std::string(" expected, got a finalized object"));
     field = holder->record;
   } else {
     FailType(value, ClassNames<Record>::kName + std::string(", table of its fields or nil"));
   }
 }
 
-// The payload arguments of offline.post, taken one after the other.
+// Reads the payload arguments of offline.post in order.
 class Payload {
  public:
   Payload(lua_State* L, int first) : L_(L), next_(first) {}
@@ -205,9 +205,9 @@ class Payload {
     ++next_;
   }
 
-  // A value too many is a mistake in the script.
+  // Refuses further arguments, which are a mistake in the script.
   void CheckEnd() const {
-    if (next_ <= lua_gettop(L_)) throw ArgumentError(next_, Mismatch(L_, next_, "no value"));
+    if (next_ <= lua_gettop(L_)) throw ArgumentError(next_, TypeMismatch(L_, next_, "no value"));
   }
 
  private:
@@ -215,7 +215,7 @@ class Payload {
   int next_;
 };
 
-// An event together with the bytes that it points to.
+// An event with storage for the bytes that it points to.
 template <class Layout>
 struct EventWithBytes : Layout {
   using Layout::Layout;
@@ -228,7 +228,7 @@ void Fill(EventWithBytes<Layout>&, Payload& payload, Field& field) {
   payload.Read(field);
 }
 
-// The pointer stays null if no bytes are given.
+// Keeps the pointer null if no bytes are given.
 template <class Layout>
 void Fill(EventWithBytes<Layout>& event, Payload& payload, const ByteBlock*& field) {
   payload.Read(event.storage);
@@ -255,10 +255,10 @@ constexpr EventRow kEvents[] = {
 #include "platform/events.def"
 };
 
-// Returns the row of the event with that name if the argument is a string, else with that type.
+// Returns the row of the event whose name or number is at `index`. An unknown number gets a row without a payload.
 EventRow FindRow(lua_State* L, int index) {
   if (lua_type(L, index) == LUA_TSTRING) {
-    const std::string_view name = CheckText(L, index);
+    const std::string_view name = CheckString(L, index);
     Suggestion suggestion(name);
     for (const EventRow& row : kEvents) {
       if (row.name == name) return row;
@@ -266,7 +266,7 @@ EventRow FindRow(lua_State* L, int index) {
     }
     throw ArgumentError(index, "invalid event '" + std::string(name) + "'" + suggestion.Text());
   }
-  if (lua_type(L, index) != LUA_TNUMBER) throw ArgumentError(index, Mismatch(L, index, "event name or number"));
+  if (lua_type(L, index) != LUA_TNUMBER) throw ArgumentError(index, TypeMismatch(L, index, "event name or number"));
   const lua_Integer number = CheckInteger(L, index);
   using Limits = std::numeric_limits<std::int32_t>;
   if (number < Limits::min() || number > Limits::max())

@@ -1,4 +1,4 @@
-// Events out of Lua values, for offline.post.
+// Builds events from Lua values, for offline.post.
 #pragma once
 
 #include <lua.hpp>
@@ -8,9 +8,9 @@
 
 namespace player {
 
-// Builds the event that the arguments of the running function describe: its name or number, then its payload in the
-// order in which the callback receives it; what is missing or nil keeps the layout's default. Makes no Lua call that
-// can raise; throws ArgumentError.
+// Returns the event that the arguments of the running function describe: its name or number, then its payload in the
+// order in which the callback receives it. A missing or nil value keeps the layout's default. Throws ArgumentError.
+// Makes no Lua call that can raise.
 std::shared_ptr<tarn::velora::Event> MakeEvent(lua_State* L);
 
 }  // namespace player

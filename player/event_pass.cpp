@@ -1,6 +1,6 @@
-// The module looks at the events in order, each with its slot in the table of callbacks, and calls the function that is
-// in it. Between two callbacks no script runs. So, when a function is called that is in the slot of an event of the
-// pass, the slots tell which events before it had no callback.
+// For each event in order, the module calls the function in the event's slot of the callback table, if there is one. No
+// script runs between two callbacks. So when the function in an event's slot is called, the earlier events that were
+// not delivered had no callback.
 #include "player/event_pass.h"
 
 #include <cstdio>
@@ -19,21 +19,21 @@ namespace {
 using tarn::velora::Event;
 using tarn::velora::offline::EventText;
 
-// What runs: a callback, and download handlers that it calls.
+// A running callback or download handler; a callback may cause calls of handlers.
 struct Running {
   std::string name;
-  std::size_t firstCall;  // in the chain of calls
+  std::size_t firstCall;  // index in the call chain
 };
 
 struct Pass {
   lua_State* L = nullptr;  // null outside of a pass
   std::vector<std::shared_ptr<Event>> events;
-  std::size_t next = 0;            // the first event that the module has not looked at
-  const void* callback = nullptr;  // identifies the call of the running callback
+  std::size_t next = 0;            // index of the first event that the module has not processed
+  const void* callback = nullptr;  // lua_Debug::i_ci of the running callback, or null
 };
 
 // Events of one name that came without a callback.
-struct Unheard {
+struct UnhandledEvents {
   std::string name;
   int count;
 };
@@ -41,9 +41,9 @@ struct Unheard {
 bool isTraced = false;
 Pass pass;
 std::vector<Running> running;
-std::vector<Unheard> unheard;
+std::vector<UnhandledEvents> unhandledEvents;
 
-// Its address is the registry key of the table of callbacks.
+// Its address is the registry key of the callback table.
 constexpr char kCallbacks = 0;
 
 constexpr int kEventTypes = 0
@@ -53,7 +53,7 @@ constexpr int kEventTypes = 0
 
 bool IsKnown(const Event& event) { return event.type >= 0 && event.type < kEventTypes; }
 
-// Pushes the table of callbacks and the function for the event. Returns the function's type.
+// Pushes the callback table and the event's callback. Returns the type of the latter.
 int PushCallback(lua_State* L, const Event& event) {
   lua_rawgetp(L, LUA_REGISTRYINDEX, &kCallbacks);
   return lua_rawgeti(L, -1, event.type);
@@ -65,7 +65,7 @@ bool HasCallback(lua_State* L, const Event& event) {
   return has;
 }
 
-// Whether the function on top of the stack is the event's callback.
+// Returns whether the function on top of the stack is the event's callback.
 bool IsCallback(lua_State* L, const Event& event) {
   if (!IsKnown(event)) return false;
   PushCallback(L, event);
@@ -74,27 +74,27 @@ bool IsCallback(lua_State* L, const Event& event) {
   return same;
 }
 
-void CountUnheard(const std::string& text) {
+void CountUnhandled(const std::string& text) {
   const std::string name = text.substr(0, text.find('('));
-  for (Unheard& row : unheard) {
+  for (UnhandledEvents& row : unhandledEvents) {
     if (row.name != name) continue;
     ++row.count;
     return;
   }
-  unheard.push_back({name, 1});
+  unhandledEvents.push_back({name, 1});
 }
 
-// Shows the event, to which the module has come.
-void Show(const std::string& text, bool heard) {
-  if (isTraced) std::fprintf(stderr, "[event] %s%s\n", text.c_str(), heard ? "" : ", no callback");
-  MarkPoint(Track::kEvents, heard ? text : text + ", no callback");
-  if (!heard) CountUnheard(text);
+// Prints the event if tracing is on, adds it to the timeline, and counts it if it is not handled.
+void TraceEvent(const std::string& text, bool handled) {
+  if (isTraced) std::fprintf(stderr, "[event] %s%s\n", text.c_str(), handled ? "" : ", no callback");
+  MarkPoint(Track::kEvents, handled ? text : text + ", no callback");
+  if (!handled) CountUnhandled(text);
 }
 
-void ShowUpTo(lua_State* L, std::size_t end) {
+void TraceUpTo(lua_State* L, std::size_t end) {
   for (; pass.next < end; ++pass.next) {
     const Event& event = *pass.events[pass.next];
-    Show(EventText(event), HasCallback(L, event));
+    TraceEvent(EventText(event), HasCallback(L, event));
   }
 }
 
@@ -104,14 +104,14 @@ void EndCallback(std::string_view error = {}) {
   running.clear();
 }
 
-// If the function on top of the stack, which is being called, is the callback of an event, begins it.
+// If the function on top of the stack, whose call begins, is the callback of an event, starts to follow it.
 void BeginCallback(lua_State* L, lua_Debug* call) {
   std::size_t index = pass.next;
   while (index < pass.events.size() && !IsCallback(L, *pass.events[index])) ++index;
   if (index == pass.events.size()) return;
-  ShowUpTo(L, index);
+  TraceUpTo(L, index);
   const std::string text = EventText(*pass.events[pass.next++]);
-  Show(text, true);
+  TraceEvent(text, true);
   pass.callback = call->i_ci;
   ClearChain();
   BeginSlice(text);
@@ -125,7 +125,7 @@ void Watch(lua_State* L, lua_Debug* event) {
     return;
   }
   if (event->event == LUA_HOOKTAILCALL || (pass.callback != nullptr && !isCallback)) return;
-  if (isCallback) EndCallback();  // the hook has not seen its end
+  if (isCallback) EndCallback();  // it ended with an error, without a return event
   lua_getinfo(L, "f", event);
   BeginCallback(L, event);
   lua_pop(L, 1);
@@ -145,10 +145,10 @@ void BeginPass(lua_State* L) {
   pass.L = L;
 }
 
-void TakeEvents(const std::vector<std::shared_ptr<Event>>& events) { pass.events = events; }
+void SetPassEvents(const std::vector<std::shared_ptr<Event>>& events) { pass.events = events; }
 
 void EndPass(lua_State* L) {
-  ShowUpTo(L, pass.events.size());
+  TraceUpTo(L, pass.events.size());
   EndCallback();
   pass = {};
 }
@@ -164,23 +164,23 @@ void ReadLogLine(const std::string& line) {
   if (mark == line.npos) return;
   CountError();
   if (running.empty()) {
-    Complain("error in a callback");
+    PrintError("error in a callback");
     return;
   }
   const std::string_view message = std::string_view(line).substr(mark + kMark.size());
   const Running& current = running.back();
   std::string text = "error in " + current.name;
   if (ChainLength() > current.firstCall) text += "\n" + ChainTraceback(current.firstCall, message);
-  Complain(text.c_str());
+  PrintError(text.c_str());
   if (running.size() == 1 && pass.callback != nullptr) EndCallback(message);
 }
 
 void FinishEventPass() {
   EndCallback();
   pass = {};
-  for (const Unheard& row : unheard)
+  for (const UnhandledEvents& row : unhandledEvents)
     Report("%s: %d event%s came without a callback", row.name.c_str(), row.count, row.count == 1 ? "" : "s");
-  unheard.clear();
+  unhandledEvents.clear();
 }
 
 HandlerCall::HandlerCall(std::string_view function) {

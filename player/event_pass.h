@@ -1,4 +1,4 @@
-// Follows the events of a frame: which callback belongs to which event, and which events have no callback.
+// Follows the events of a frame, to find out which event each callback is called for and which events have no callback.
 #pragma once
 
 #include <cstddef>
@@ -12,29 +12,29 @@
 
 namespace player {
 
-// Gets ready for the module's table of callbacks. `trace` prints each event on stderr. May raise a memory error.
+// Finds the module's callback table. If `trace`, each event is printed on stderr. May raise a memory error.
 void OpenEventPass(lua_State* L, bool trace);
 
-// Enclose the module's update. A pass that an error has ended is closed by the next one and by FinishEventPass.
+// To be called before and after the module's update. If an error skips EndPass, the next BeginPass or FinishEventPass
+// ends the pass.
 void BeginPass(lua_State* L);
 void EndPass(lua_State* L);
 
-// The events of the pass, before the first is delivered.
-void TakeEvents(const std::vector<std::shared_ptr<tarn::velora::Event>>& events);
+// Sets the events of the pass; to be called before the first is delivered.
+void SetPassEvents(const std::vector<std::shared_ptr<tarn::velora::Event>>& events);
 
-// Watches the calls and returns that a debug hook sees. A callback that runs under the script's own hook is not seen;
-// its event then only shows when the pass ends. Raises nothing, allocates nothing in Lua and leaves the stack as it
-// was.
+// Detects callbacks; to be called by the debug hook for calls and returns. While the script's own hook is set,
+// callbacks are not detected, and their events are printed only when the pass ends. Raises nothing, allocates nothing
+// in Lua and leaves the stack unchanged.
 void WatchCallbacks(lua_State* L, lua_Debug* event);
 
-// Tells which callback the error belongs to that the module has logged in this line, with a traceback. Ignores all
-// other lines.
+// If the line logs an error of a callback, prints which callback it is, with a traceback. Ignores all other lines.
 void ReadLogLine(const std::string& line);
 
-// Reports the events that came without a callback, and forgets everything.
+// Reports the events that came without a callback, and resets the state.
 void FinishEventPass();
 
-// While one lives, a function of the download handler runs.
+// Lives while a function of the download handler runs.
 class HandlerCall {
  public:
   explicit HandlerCall(std::string_view function);

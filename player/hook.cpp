@@ -1,4 +1,3 @@
-// The hook, and the replacements of two functions of the library `debug`.
 #include "player/hook.h"
 
 #include "player/event_pass.h"
@@ -21,8 +20,8 @@ void OnHook(lua_State* L, lua_Debug* event) {
 
 lua_State* ThreadArgument(lua_State* L) { return lua_isthread(L, 1) ? lua_tothread(L, 1) : L; }
 
-// debug.sethook([thread,] hook, mask [, count]), or debug.sethook([thread]). The arguments stay on the
-// stack, which keeps the thread alive.
+// debug.sethook([thread,] hook, mask [, count]), or debug.sethook([thread]). The arguments stay on the stack to keep
+// the thread alive.
 int SetScriptHook(lua_State* L) {
   lua_State* thread = ThreadArgument(L);
   const int arguments = lua_gettop(L);
@@ -34,7 +33,7 @@ int SetScriptHook(lua_State* L) {
   return 0;
 }
 
-// debug.gethook([thread]). Returns what Lua returns without a hook if the hook is the player's.
+// debug.gethook([thread]). If the hook is the player's, returns what debug.gethook returns if there is no hook.
 int GetScriptHook(lua_State* L) {
   if (lua_gethook(ThreadArgument(L)) == OnHook) {
     lua_pushnil(L);
@@ -49,7 +48,7 @@ int GetScriptHook(lua_State* L) {
   return 3;
 }
 
-// Replaces the function `name` in the table on top of the stack by `function`, with the old one as its upvalue.
+// Replaces the function `name` in the table on top of the stack with `function`, whose upvalue is the old one.
 void Replace(lua_State* L, const char* name, lua_CFunction function) {
   lua_getfield(L, -1, name);
   lua_pushcclosure(L, function, 1);

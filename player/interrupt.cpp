@@ -1,4 +1,4 @@
-// The handler only sets a flag: it may run at any point, and on Windows in a thread of its own.
+// The signal handler only sets a flag, since it may run at any point, and on Windows in a thread of its own.
 #include "player/interrupt.h"
 
 #include <atomic>
@@ -9,7 +9,7 @@ namespace player {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-constexpr Clock::duration kPatience = std::chrono::milliseconds(250);
+constexpr Clock::duration kGracePeriod = std::chrono::milliseconds(250);
 
 std::atomic<bool> interrupted = false;
 static_assert(std::atomic<bool>::is_always_lock_free);
@@ -30,8 +30,8 @@ bool Interrupted() { return interrupted; }
 void StopWhenInterrupted(lua_State* L) {
   if (!interrupted) return;
   static const Clock::time_point seen = Clock::now();
-  if (Clock::now() - seen < kPatience) return;
-  // A script that catches the error gets the next one at once.
+  if (Clock::now() - seen < kGracePeriod) return;
+  // If the script catches the error, it gets the next one after one instruction.
   lua_sethook(L, lua_gethook(L), lua_gethookmask(L), 1);
   luaL_where(L, 0);
   lua_pushliteral(L, "interrupted");

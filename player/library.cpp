@@ -16,13 +16,13 @@ namespace {
 #if defined(_WIN32)
 
 using Handle = HMODULE;
-constexpr const char* kModulePlaces[] = {"LuaVelora.dll"};
+constexpr const char* kModulePaths[] = {"LuaVelora.dll"};
 
 std::string LastError() { return std::system_category().message(static_cast<int>(GetLastError())); }
 
 Handle Open(std::filesystem::path file) { return LoadLibraryW(file.make_preferred().c_str()); }
 
-// Through a plain function pointer, since a direct cast between function types draws a warning.
+// Casts via void (*)(), since GCC warns of a direct cast between other function types.
 void* Find(Handle library, const char* name) {
   return reinterpret_cast<void*>(reinterpret_cast<void (*)()>(GetProcAddress(library, name)));
 }
@@ -31,7 +31,7 @@ std::filesystem::path OwnPath() {
   std::wstring path(MAX_PATH, L'\0');
   for (;;) {
     const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-    if (length == 0) throw std::runtime_error("cannot find out where the program lies: " + LastError());
+    if (length == 0) throw std::runtime_error("cannot find the program's path: " + LastError());
     if (length < path.size()) return path.substr(0, length);
     path.resize(path.size() * 2);
   }
@@ -40,7 +40,7 @@ std::filesystem::path OwnPath() {
 #else
 
 using Handle = void*;
-constexpr const char* kModulePlaces[] = {"LuaVelora.so", "../lib/LuaVelora.so"};
+constexpr const char* kModulePaths[] = {"LuaVelora.so", "../lib/LuaVelora.so"};
 
 std::string LastError() {
   const char* text = dlerror();
@@ -64,7 +64,7 @@ void Resolve(Handle library, const std::filesystem::path& file, const char* name
 }  // namespace
 
 Module LoadModule(const std::filesystem::path& file) {
-  const Handle library = Open(std::filesystem::absolute(file));  // a plain name would be searched for elsewhere
+  const Handle library = Open(std::filesystem::absolute(file));  // a bare name would be searched for
   if (library == nullptr) throw std::runtime_error("cannot load module " + file.string() + ": " + LastError());
   Module module{};
   Resolve(library, file, "InitLuaVelora", module.init);
@@ -75,10 +75,10 @@ Module LoadModule(const std::filesystem::path& file) {
 
 std::filesystem::path DefaultModule() {
   const std::filesystem::path folder = OwnPath().parent_path();
-  for (const char* place : kModulePlaces) {
-    if (std::filesystem::exists(folder / place)) return folder / place;
+  for (const char* path : kModulePaths) {
+    if (std::filesystem::exists(folder / path)) return folder / path;
   }
-  return folder / kModulePlaces[0];
+  return folder / kModulePaths[0];
 }
 
 }  // namespace player

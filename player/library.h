@@ -14,11 +14,11 @@ struct Module {
   decltype(&DeinitLuaVelora) deinit;
 };
 
-// Loads the library `file`. It stays loaded until the process ends. Throws std::runtime_error with a message
-// of one line.
+// Loads the library `file`, which stays loaded until the process ends. Throws std::runtime_error with a one-line
+// message.
 Module LoadModule(const std::filesystem::path& file);
 
-// Returns the path of the module's library: beside the running program or, as installed on Linux, in ../lib.
+// Returns the path of the module's library: in the folder of the running program or, if installed on Linux, in ../lib.
 std::filesystem::path DefaultModule();
 
 }  // namespace player

@@ -15,10 +15,10 @@ namespace {
 
 namespace families = tarn::velora::families;
 
-// A function with a list of strings that leaves elements of other types out: the argument with the list.
+// A function that takes a list of strings and drops elements of other types.
 struct ListFunction {
   std::string_view name;
-  int argument;  // 0 if the function takes no such list
+  int argument;  // the index of the list, or 0 if the function takes no such list
 };
 
 template <class Function>
@@ -34,9 +34,10 @@ constexpr ListFunction kListFunctions[] = {
 #include "platform/share_info.def"
 };
 
-// A setter that takes anything: returns what it stores instead of the value at 2, or null if it can store that.
+// A setter that takes a value of any type.
 struct Setter {
   std::string_view name;
+  // Returns a name for what is stored instead of the value at index 2, or null if that value is stored.
   const char* (*substitute)(lua_State* L);
 };
 
@@ -66,7 +67,7 @@ const Row* Find(const Row* begin, const Row* end, std::string_view name) {
   return row == end ? nullptr : row;
 }
 
-constexpr std::size_t kMaxLength = 1 << 20;  // longer lists raise an error
+constexpr std::size_t kMaxLength = 1 << 20;  // the module raises an error for a longer list
 
 void ReportElements(lua_State* L, int list, const CallText& text) {
   const int length = static_cast<int>(std::min<std::size_t>(lua_rawlen(L, list), kMaxLength));

@@ -8,9 +8,9 @@
 
 namespace player {
 
-// To be called when the function `name`, whose call is `text`, is about to run with its arguments on the stack. Reports
-// the elements of a list of strings that are dropped, and a value for which a setter stores 0 or an empty string.
-// Raises nothing, allocates nothing in Lua and leaves the stack as it was.
+// Reports the list elements that the function `name` is going to drop, or that it is going to store 0 or an empty
+// string for a value of another type. The arguments must be on the stack; `text` is the description of the call. Raises
+// nothing, allocates nothing in Lua and leaves the stack unchanged.
 void ReportLostValues(lua_State* L, std::string_view name, const CallText& text);
 
 }  // namespace player

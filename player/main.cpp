@@ -33,7 +33,7 @@ int Main(int argc, char** argv) {
   try {
     options = ParseOptions(argc, argv);
   } catch (const std::invalid_argument& error) {
-    Complain(error.what());
+    PrintError(error.what());
     std::fputs(kUsage, stderr);
     return kBadArguments;
   }
@@ -49,7 +49,7 @@ int main(int argc, char** argv) {
   try {
     return player::Main(argc, argv);
   } catch (const std::exception& error) {
-    player::Complain(error.what());
+    player::PrintError(error.what());
     return player::kFailed;
   }
 }

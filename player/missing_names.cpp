@@ -17,7 +17,7 @@ std::string_view FindSimilar(lua_State* L, int index, std::string_view wrong) {
   return suggestion.Best();
 }
 
-// __index(velora, name): returns nil.
+// __index(velora, name). Reports the name and returns nil.
 int ReportName(lua_State* L) {
   if (lua_type(L, 1) != LUA_TTABLE || lua_type(L, 2) != LUA_TSTRING) return 0;
   const char* name = lua_tostring(L, 2);

@@ -8,10 +8,10 @@
 namespace player {
 namespace {
 
-class PlayersObserver final : public tarn::velora::offline::Observer {
+class PlayerObserver final : public tarn::velora::offline::Observer {
   void OnCall(const std::string& line) override { MarkPoint(Track::kCalls, line); }
   void OnLog(const std::string& line) override { ReadLogLine(line); }
-  void OnEvents(const std::vector<std::shared_ptr<tarn::velora::Event>>& events) override { TakeEvents(events); }
+  void OnEvents(const std::vector<std::shared_ptr<tarn::velora::Event>>& events) override { SetPassEvents(events); }
   void OnWarning(const char* operation, const std::string& reason) override {
     ReportWarning(operation, reason.c_str());
   }
@@ -20,7 +20,7 @@ class PlayersObserver final : public tarn::velora::offline::Observer {
 }  // namespace
 
 void OpenObserver() {
-  static PlayersObserver observer;
+  static PlayerObserver observer;
   tarn::velora::offline::SetObserver(&observer);
 }
 

@@ -1,4 +1,4 @@
-// Passes on what the offline runtime tells.
+// Connects the offline runtime's observer to the parts of the player.
 #pragma once
 
 namespace player {

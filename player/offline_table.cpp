@@ -48,15 +48,15 @@ offline::Answer ReadAnswer(lua_State* L, int index) {
     case LUA_TNUMBER:
       return std::int64_t{CheckInteger(L, index)};
     case LUA_TSTRING:
-      return std::string(CheckText(L, index));
+      return std::string(CheckString(L, index));
     default:
-      throw ArgumentError(index, Mismatch(L, index, "string, boolean, integer or nil"));
+      throw ArgumentError(index, TypeMismatch(L, index, "string, boolean, integer or nil"));
   }
 }
 
 // offline.answer(name, value): sets what an operation returns.
 Outcome Answer(lua_State* L) {
-  const std::string name(CheckText(L, 1));
+  const std::string name(CheckString(L, 1));
   offline::Answer answer = ReadAnswer(L, 2);
   try {
     offline::SetAnswer(name, std::move(answer));
@@ -74,7 +74,7 @@ Outcome Post(lua_State* L) {
   return Outcome::Results(0);
 }
 
-// What the handlers' operations take. The strings are on the Lua stack.
+// The arguments of the handlers' functions. The strings are on the Lua stack.
 struct DownloadArguments {
   const char* text = nullptr;
   const char* bytes = nullptr;
@@ -83,12 +83,12 @@ struct DownloadArguments {
 
 DownloadArguments ReadDownloadArguments(lua_State* L) {
   DownloadArguments arguments;
-  if (!lua_isnoneornil(L, 2)) arguments.text = CheckText(L, 2).data();
-  const std::string_view bytes = lua_isnoneornil(L, 3) ? std::string_view() : CheckText(L, 3);
+  if (!lua_isnoneornil(L, 2)) arguments.text = CheckString(L, 2).data();
+  const std::string_view bytes = lua_isnoneornil(L, 3) ? std::string_view() : CheckString(L, 3);
   arguments.bytes = bytes.data();
   const auto length = static_cast<lua_Integer>(bytes.size());
   const lua_Integer count = lua_isnoneornil(L, 4) ? length : CheckInteger(L, 4);
-  // Without bytes any count will do, as nothing is read from a null pointer.
+  // Without bytes any count is allowed, since the handler reads nothing from a null pointer.
   if (count < 0 || (arguments.bytes != nullptr && count > length))
     throw ArgumentError(4, "integer from 0 to " + std::to_string(length) + " expected, got " + std::to_string(count));
   arguments.count = static_cast<std::uint64_t>(count);
@@ -112,11 +112,11 @@ constexpr DownloadOperation kDownloadOperations[] = {
 
 // offline.download(operation, ...): calls every registered handler at once.
 Outcome Download(lua_State* L) {
-  const std::string_view name = CheckText(L, 1);
+  const std::string_view name = CheckString(L, 1);
   for (const DownloadOperation& operation : kDownloadOperations) {
     if (operation.name != name) continue;
     if (lua_gettop(L) > operation.highestArgument)
-      throw ArgumentError(operation.highestArgument + 1, Mismatch(L, operation.highestArgument + 1, "no value"));
+      throw ArgumentError(operation.highestArgument + 1, TypeMismatch(L, operation.highestArgument + 1, "no value"));
     const DownloadArguments arguments = ReadDownloadArguments(L);
     const HandlerCall call(name);
     for (Handler* handler : offline::Handlers()) operation.call(*handler, arguments);

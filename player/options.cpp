@@ -20,43 +20,42 @@ constexpr char kHelpText[] = USAGE R"(
 Plays a Lua script against the module and the offline runtime, about 60 frames a
 second, until the script quits. The script - is read from standard input.
 
-  --strict         report on stderr what the module passes over: refused calls,
-                   lost values, names that do not exist, events without a
-                   callback
+  --strict         report silent mistakes on stderr: refused calls, lost values,
+                   names that do not exist, events without a callback
   --trace          show the SDK calls and the events on stderr
-  --timeline FILE  write the run to FILE, which Perfetto and browsers' tools
-                   open
-  --watch          play again when the script, or a module that it requires,
+  --timeline FILE  write a trace of the run to FILE, for Perfetto or the tools
+                   of a browser
+  --watch          play again when the script or a module that it requires
                    changes
-  --frames N       end when N frames have passed
-  --module FILE    load this library as the module, not the one that came with
-                   the program
+  --frames N       end after N frames
+  --module FILE    load the module from this library instead of the one that is
+                   installed with the program
   --help           show this text
   --version        show the version
 
-A script has two tables that it does not have in a game. `player` is this
-program:
+The script has two tables that do not exist in a game. `player` controls the
+run:
   player.quit([status])    end after this frame; the default status is 0
   player.onFrame(f)        call f(frame) after each frame's update; nil: nothing
-  player.terminal          whether the output goes to a terminal
-`offline` is the runtime that replaces the SDK:
-  offline.calls()          the SDK calls since the last time, as lines
+  player.terminal          whether stdout is a terminal
+`offline` controls the runtime that replaces the SDK:
+  offline.calls()          return the SDK calls since the last time, as lines
   offline.answer(name, value)
-                           what an operation returns from now on; nil restores
-                           the default
+                           set the result of an operation; nil restores the
+                           default
   offline.post(event, ...)
-                           queue an event, by its name or number, with what its
-                           callback receives
+                           queue an event, given by name or number, with the
+                           arguments of its callback
   offline.download(operation, ...)
                            call onInited, onProgress or onFinish of the download
                            handler
-  offline.log()            the log lines since the last time
+  offline.log()            return the log lines since the last time
 
-The exit status is the one that the script quits with, or
-  1    an error outside callbacks, or something cannot be loaded
-  2    all frames have passed
-  3    instead of 0, if --strict has reported anything or a callback has raised
-       an error
+The exit status is that of player.quit, or
+  1    an error outside callbacks, or a file that cannot be loaded
+  2    the N frames of --frames have passed
+  3    instead of 0, with --strict: something was reported, or a callback has
+       raised an error
   64   a wrong command line
   130  Ctrl-C; a second one ends the program at once
 )";
@@ -70,9 +69,9 @@ constexpr std::size_t LongestLine(std::string_view text) {
   }
   return longest;
 }
-static_assert(LongestLine(kHelpText) <= 80, "the help fits a terminal of 80 columns");
+static_assert(LongestLine(kHelpText) <= 80, "the help must fit in 80 columns");
 
-// Errors have the form of Lua's own.
+// Throws an error in the form of Lua's argument errors.
 [[noreturn]] void FailArgument(const std::string& function, const std::string& reason) {
   throw std::invalid_argument("bad argument #1 to '" + function + "' (" + reason + ")");
 }

@@ -9,7 +9,8 @@ namespace {
 
 using luavelora::Outcome;
 
-// Its address is the registry key of the function given to player.onFrame; there is an entry from the start.
+// Its address is the registry key of the function given to player.onFrame, or false. The entry always exists, so that
+// setting it allocates nothing and cannot raise.
 constexpr char kFrameFunction = 0;
 constexpr lua_Integer kHighestStatus = 255;
 
@@ -18,7 +19,7 @@ int ReadStatus(lua_State* L, int index) {
   if (lua_isboolean(L, index)) return lua_toboolean(L, index) ? 0 : 1;
   lua_Integer status = 0;
   const std::string expected = "integer from 0 to " + std::to_string(kHighestStatus) + " or boolean";
-  if (!ToInteger(L, index, status)) throw ArgumentError(index, Mismatch(L, index, expected.c_str()));
+  if (!ToInteger(L, index, status)) throw ArgumentError(index, TypeMismatch(L, index, expected.c_str()));
   if (status < 0 || status > kHighestStatus)
     throw ArgumentError(index, expected + " expected, got " + std::to_string(status));
   return static_cast<int>(status);
@@ -28,13 +29,13 @@ int ReadStatus(lua_State* L, int index) {
 Outcome Quit(lua_State* L) {
   QuitRequest& request = *static_cast<QuitRequest*>(lua_touserdata(L, lua_upvalueindex(1)));
   request.status = ReadStatus(L, 1);
-  request.made = true;
+  request.requested = true;
   return Outcome::Results(0);
 }
 
-// player.onFrame(f): calls f(frame) after each frame's update; nil ends that.
+// player.onFrame(f): sets the function that is called after each frame's update; nil removes it.
 Outcome OnFrame(lua_State* L) {
-  if (!lua_isnil(L, 1) && !lua_isfunction(L, 1)) throw ArgumentError(1, Mismatch(L, 1, "function or nil"));
+  if (!lua_isnil(L, 1) && !lua_isfunction(L, 1)) throw ArgumentError(1, TypeMismatch(L, 1, "function or nil"));
   lua_settop(L, 1);
   if (lua_isnil(L, 1)) {
     lua_pushboolean(L, 0);

@@ -5,14 +5,14 @@
 
 namespace player {
 
-// What a script asked for with player.quit.
+// The request made with player.quit.
 struct QuitRequest {
-  bool made = false;
+  bool requested = false;
   int status = 0;
 };
 
-// Sets the global `player`. `terminal` is whether the output goes to a terminal. `request` must outlive the state. May
-// raise a memory error.
+// Sets the global `player`. `terminal` is whether stdout is a terminal. `request` must outlive the state. May raise a
+// memory error.
 void OpenPlayerTable(lua_State* L, QuitRequest& request, bool terminal);
 
 // Pushes the function given to player.onFrame and returns true, or pushes nothing and returns false.

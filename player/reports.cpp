@@ -23,7 +23,7 @@ bool IsStrict() { return isStrict; }
 void Report(const char* format, ...) {
   if (!isStrict) return;
   hasReports = true;
-  std::fprintf(stderr, "%s[strict]%s ", Yellow(), Plain());
+  std::fprintf(stderr, "%s[strict]%s ", Yellow(), ResetColour());
   std::va_list arguments;
   va_start(arguments, format);
   std::vfprintf(stderr, format, arguments);

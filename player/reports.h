@@ -1,21 +1,21 @@
-// What --strict reports, and the exit status that follows from it.
+// The reports of --strict. They determine the exit status.
 #pragma once
 
 namespace player {
 
-// Sets whether reports are printed and counted. Forgets the ones before.
+// Sets whether reports are printed and counted. Resets the count.
 void OpenReports(bool strict);
 
-// Returns whether --strict is given.
+// Returns whether --strict was given.
 bool IsStrict();
 
-// Prints "[strict] LINE" on stderr, from a format as printf takes it. Does nothing without --strict.
+// Prints "[strict] LINE" on stderr, with a printf format. Does nothing without --strict.
 #if defined(__GNUC__)
 __attribute__((format(printf, 1, 2)))
 #endif
 void Report(const char* format, ...);
 
-// Counts an error of a callback, of which the caller tells.
+// Counts an error of a callback. The caller prints it.
 void CountError();
 
 // Returns whether anything was reported or counted with --strict.

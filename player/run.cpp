@@ -1,4 +1,3 @@
-// The steps of a run.
 #include "player/run.h"
 
 #include <algorithm>
@@ -35,7 +34,7 @@ int Traceback(lua_State* L) {
   return 1;
 }
 
-// Calls the script's function below its arguments. Raises its errors again, with a traceback added.
+// Calls a function of the script, which is below its arguments on the stack. Raises its errors with a traceback added.
 void CallScript(lua_State* L, int arguments) {
   const int function = lua_gettop(L) - arguments;
   lua_pushcfunction(L, Traceback);
@@ -59,8 +58,8 @@ int Collect(lua_State* L) {
   return 0;
 }
 
-// Closes the state, which runs the script's finalizers. The collection comes first because Lua 5.3 loops for ever if a
-// finalizer collects in a lua_close that interrupts a sweep.
+// Closes the state, which runs the script's finalizers. Completes the collection cycle first, since Lua 5.3 loops
+// forever if a finalizer calls collectgarbage in a lua_close that interrupts a sweep.
 void Close(lua_State* L, Game& game) {
   game.closing = true;
   lua_pushcfunction(L, Collect);
@@ -68,7 +67,7 @@ void Close(lua_State* L, Game& game) {
   lua_close(L);
 }
 
-// Ends the run after its state was closed, and returns the exit status.
+// Ends the run after its state was closed. Returns the exit status.
 int Finish(int status) {
   FinishEventPass();
   CloseTimeline();
@@ -78,7 +77,7 @@ int Finish(int status) {
 
 int PlayAgain(Game& game, int status);
 
-// os.exit([status]): ends the run at once, through any pcall, but in the same order as every run.
+// os.exit([status]): ends the run at once, even inside a pcall, with the same steps as at the end of every run.
 int Exit(lua_State* L) {
   Game& game = *static_cast<Game*>(lua_touserdata(L, lua_upvalueindex(1)));
   const bool isFlag = lua_isboolean(L, 1);
@@ -100,12 +99,13 @@ void ReplaceExit(lua_State* L, Game& game) {
   lua_pop(L, 1);
 }
 
-// The steps run in protected mode, since the entry points may raise memory errors. They own nothing.
+// The steps below run in protected mode, since the entry points may raise memory errors. They own nothing, so that a
+// longjmp may skip their frames.
 
-Game& GameOf(lua_State* L) { return *static_cast<Game*>(lua_touserdata(L, 1)); }
+Game& GetGame(lua_State* L) { return *static_cast<Game*>(lua_touserdata(L, 1)); }
 
 int Start(lua_State* L) {
-  Game& game = GameOf(L);
+  Game& game = GetGame(L);
   luaL_openlibs(L);
   ReplaceExit(L, game);
   SetArguments(L, game);
@@ -120,7 +120,7 @@ int Start(lua_State* L) {
 }
 
 int RunScript(lua_State* L) {
-  const Game& game = GameOf(L);
+  const Game& game = GetGame(L);
   const char* script = game.argv[game.options.script];
   if (luaL_loadfile(L, std::strcmp(script, kStdin) == 0 ? nullptr : script) != LUA_OK) return lua_error(L);
   const int arguments = game.argc - game.options.script - 1;
@@ -133,7 +133,7 @@ int RunScript(lua_State* L) {
 }
 
 int RunFrame(lua_State* L) {
-  const Game& game = GameOf(L);
+  const Game& game = GetGame(L);
   BeginPass(L);
   HookCalls(L, true);
   game.module.update(L);
@@ -148,7 +148,7 @@ int RunFrame(lua_State* L) {
 }
 
 int End(lua_State* L) {
-  GameOf(L).module.deinit(L);
+  GetGame(L).module.deinit(L);
   return 0;
 }
 
@@ -157,22 +157,22 @@ bool Protected(lua_State* L, lua_CFunction step, Game& game) {
   lua_pushcfunction(L, step);
   lua_pushlightuserdata(L, &game);
   if (lua_pcall(L, 1, 0, 0) == LUA_OK) return true;
-  Complain(lua_type(L, -1) == LUA_TSTRING ? lua_tostring(L, -1) : "(error without a text)");
+  PrintError(lua_type(L, -1) == LUA_TSTRING ? lua_tostring(L, -1) : "(error object is not a string)");
   lua_pop(L, 1);
   return false;
 }
 
 int RunFrames(lua_State* L, Game& game) {
   Clock::time_point next = Clock::now();
-  while (!game.quit.made && !Interrupted() && !WatchedFileChanged()) {
+  while (!game.quit.requested && !Interrupted() && !WatchedFileChanged()) {
     if (game.frame == game.options.frames) {
       char text[64];
       std::snprintf(text, sizeof text, "frame %lld has passed without player.quit", static_cast<long long>(game.frame));
-      Complain(text);
+      PrintError(text);
       return kOutOfFrames;
     }
     std::this_thread::sleep_until(next);
-    // After a slow frame the next one starts at once, but there is no burst to catch up.
+    // After a slow frame the next one starts at once, but lost time is not made up for.
     next = std::max(next + kFrameTime, Clock::now());
     ++game.frame;
     BeginSlice("frame " + std::to_string(game.frame));
@@ -189,7 +189,6 @@ int PlayIn(lua_State* L, Game& game) {
   return status;
 }
 
-// The module outlives the Lua state, whose closing runs the module's finalizers; the runtime's thread outlives both.
 int PlayOnce(Game& game) {
   game.frame = 0;
   game.quit = {};
@@ -199,7 +198,7 @@ int PlayOnce(Game& game) {
   if (game.options.timeline) OpenTimeline(*game.options.timeline, game.argv[game.options.script]);
   lua_State* L = luaL_newstate();
   if (L == nullptr) {
-    Complain("not enough memory for a Lua state");
+    PrintError("cannot create state: not enough memory");
     return kFailed;
   }
   const int status = PlayIn(L, game);
@@ -207,11 +206,11 @@ int PlayOnce(Game& game) {
   return Finish(status);
 }
 
-// After a run has ended with `status`: with --watch, plays again after each change, until Ctrl-C. Returns the last
-// run's status.
+// Called after a run with the exit status `status`. With --watch, plays the script again after each change, until
+// Ctrl-C. Returns the status of the last run.
 int PlayAgain(Game& game, int status) {
   while (game.options.watch && !Interrupted()) {
-    std::fprintf(stderr, "%s[watch]%s the run has ended with status %d\n", Yellow(), Plain(), status);
+    std::fprintf(stderr, "%s[watch]%s the run has ended with status %d\n", Yellow(), ResetColour(), status);
     if (!WaitForChange()) return kInterrupted;
     tarn::velora::offline::Reset();
     status = PlayOnce(game);

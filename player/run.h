@@ -1,4 +1,4 @@
-// One run of a script: a Lua state of its own, the script, its frames, and the end in good order.
+// Runs a script in a new Lua state: the script, then its frames, then the module's shutdown.
 #pragma once
 
 #include <cstdint>
@@ -10,12 +10,12 @@
 
 namespace player {
 
-inline constexpr int kFailed = 1;       // the script raised, or something could not be loaded
+inline constexpr int kFailed = 1;       // the script raised an error, or a file could not be loaded
 inline constexpr int kOutOfFrames = 2;  // all frames passed without player.quit
-inline constexpr int kReported = 3;     // instead of 0, if --strict has reported anything or a callback has raised
+inline constexpr int kReported = 3;     // instead of 0, if --strict has reported or counted anything
 inline constexpr int kInterrupted = 130;
 
-// What a run needs, and its state.
+// The settings and the state of a run.
 struct Game {
   Module module;
   int argc;
@@ -26,8 +26,8 @@ struct Game {
   bool closing = false;  // the Lua state is being closed
 };
 
-// Plays the script, with --watch again after each change, and returns the exit status. os.exit in the script does not
-// return from here: it ends the run in the same way and then the process.
+// Plays the script, with --watch again after each change, and returns the exit status. Does not return if the script
+// calls os.exit, which ends the run in the same way and then the process.
 int Play(Game& game);
 
 }  // namespace player

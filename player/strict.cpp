@@ -1,5 +1,5 @@
-// A call that the module accepts reaches the SDK, which the runtime's call hook reports, or raises an error and does
-// not return. For functions that do not call the SDK, a table says what they take.
+// A call was refused if it returns without having reached the SDK, which the runtime's call hook detects. For functions
+// that never call the SDK, kWithoutSdk has tests of their arguments.
 #include "player/strict.h"
 
 #include <string_view>
@@ -14,7 +14,7 @@
 namespace player {
 namespace {
 
-// Its address is the registry key of the table of the functions' names, indexed by function.
+// Its address is the registry key of a table from functions to their names.
 constexpr char kNames = 0;
 
 // Returns whether the function `name` accepts the arguments on the stack.
@@ -29,7 +29,7 @@ bool TakesObject(lua_State* L, std::string_view name) {
   return className != nullptr && name.starts_with(className) && FromUserType(L, 1) != nullptr;
 }
 
-// The accepted calls that do not reach the SDK, by the prefix of the function's name.
+// A test for the functions whose names start with `prefix`, which do not call the SDK.
 struct Rule {
   std::string_view prefix;
   Test test;
@@ -48,7 +48,7 @@ constexpr Rule kWithoutSdk[] = {
 #include "platform/share_info.def"
 };
 
-// Returns null for a function whose accepted calls reach the SDK.
+// Returns the test for a function, or null if its accepted calls reach the SDK.
 Test FindTest(std::string_view name) {
   if (name.ends_with(".__gc")) return TakesObject;
   for (const Rule& rule : kWithoutSdk)
@@ -56,8 +56,8 @@ Test FindTest(std::string_view name) {
   return nullptr;
 }
 
-// The latest call that began, while it may still be refused. A call inside it takes its place, and one that raises an
-// error never ends. Neither matters: a call that ran script code or raised has already passed its argument tests.
+// The call that began last, until it has ended. A nested call overwrites it, and a call that raises an error does not
+// end. Neither matters: a call that runs script code or raises has already passed its argument tests.
 struct Call {
   lua_State* L = nullptr;
   const char* name = nullptr;  // null if there is none
@@ -78,7 +78,7 @@ const char* FindName(lua_State* L, lua_Debug* event) {
   return name;
 }
 
-// Whether a call passes the argument tests that come before the values that may be lost.
+// Returns whether the call passes the tests of the arguments other than those that ReportLostValues tests.
 bool IsAccepted(lua_State* L, std::string_view name) {
   if (name.find(".set_") != name.npos) return TakesObject(L, name);
   return name != "zvSendPushNotification" || lua_isstring(L, 1) != 0;
@@ -90,7 +90,7 @@ void Begin(lua_State* L, lua_Debug* event) {
   call.L = L;
   call.name = name;
   call.reachedSdk = false;
-  DescribeCall(L, name, call.text);  // now, since the call may turn a number into a string in place
+  DescribeCall(L, name, call.text);  // before the call, which may convert a number argument to a string in place
   if (IsAccepted(L, name)) ReportLostValues(L, name, call.text);
   if (const Test test = FindTest(name)) {
     if (!test(L, name)) ReportRefusal();

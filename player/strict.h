@@ -1,20 +1,20 @@
-// Reports the calls that the module refuses, or accepts only in part. A refused call does nothing and returns nil, so
-// the mistake is easily missed.
+// Reports the calls that the module refuses. A refused call does nothing and returns nil, so the mistake is easily
+// overlooked.
 #pragma once
 
 #include <lua.hpp>
 
 namespace player {
 
-// Records the functions of the global `velora`, the module's table, and watches its names. May raise a memory error.
+// Collects the functions of the global `velora`, and starts to report missing names in it. May raise a memory error.
 void OpenStrict(lua_State* L);
 
-// Reports that the running call of the operation is one that a real SDK would hardly accept.
+// Reports that a real SDK would probably refuse the running call of the operation.
 void ReportWarning(const char* operation, const char* reason);
 
-// Watches the calls of those functions and reports each refused one. Raises nothing, allocates
-// nothing in Lua and leaves the stack as it was. Finalisers run without hooks: their calls are not seen and may hide
-// the call that they interrupt. Only one Lua state of the process can be watched.
+// Reports each refused call of these functions; to be called by the debug hook for calls and returns. Raises nothing,
+// allocates nothing in Lua and leaves the stack unchanged. Finalizers run without hooks: their calls are not detected,
+// and if one calls the SDK, the call that it interrupts may not be reported. Works for one Lua state at a time.
 void WatchCall(lua_State* L, lua_Debug* event);
 
 }  // namespace player

@@ -16,9 +16,9 @@ unsigned ReplaceCost(char a, char b) {
   return lower(a) == lower(b) ? kOtherCase : kEdit;
 }
 
-// The cost of the edits that make `b` of `a`: a character inserted, removed, replaced or swapped with the next.
+// Returns the edit distance of `a` and `b`. An edit inserts, removes or replaces a character, or swaps two neighbours.
 unsigned Distance(std::string_view a, std::string_view b) {
-  unsigned rows[3][kLongest + 1] = {};  // the last three rows of the table, by turns
+  unsigned rows[3][kLongest + 1] = {};  // the last three rows of the table, used in turn
   for (unsigned j = 0; j <= b.size(); ++j) rows[0][j] = j * kEdit;
   for (std::size_t i = 1; i <= a.size(); ++i) {
     unsigned* row = rows[i % 3];

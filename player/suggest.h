@@ -1,4 +1,4 @@
-// "Did you mean": the name that is most like a wrong one.
+// Finds the name for "did you mean".
 #pragma once
 
 #include <string>
@@ -6,18 +6,19 @@
 
 namespace player {
 
-// Looks for the name that is most like `wrong` among those that it is given.
+// Finds the most similar name to `wrong` among the candidates.
 class Suggestion {
  public:
   explicit Suggestion(std::string_view wrong);
 
-  // `name` must stay alive.
+  // Adds a candidate. `name` must outlive this object.
   void Consider(std::string_view name);
 
   // Returns "; did you mean NAME?" with the best name, or an empty string if none is similar.
   std::string Text() const;
 
-  // Returns the best name, or an empty one if none is similar. Of equally good ones it is the first in the alphabet.
+  // Returns the most similar candidate, or an empty string if none is similar. Of several, returns the first in
+  // alphabetical order.
   std::string_view Best() const { return best_; }
 
  private:

@@ -22,12 +22,12 @@ bool hasColour = false;
 void PrepareStreams() {
   _setmode(_fileno(stdout), _O_BINARY);
   _setmode(_fileno(stderr), _O_BINARY);
-  // If both streams are one pipe, their lines keep their order.
+  // Unbuffered, so that lines keep their order if both streams are the same pipe.
   std::setvbuf(stdout, nullptr, _IONBF, 0);
   std::setvbuf(stderr, nullptr, _IONBF, 0);
 }
 
-// Returns whether the stream is a console, and makes it understand escape codes.
+// Returns whether the stream is a console that interprets escape codes, after enabling them.
 bool OpenTerminal(std::FILE* stream) {
   const auto console = reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream)));
   DWORD mode = 0;
@@ -56,8 +56,10 @@ void PrepareOutput() {
 bool IsTerminal() { return isTerminal; }
 bool HasColour() { return hasColour; }
 const char* Yellow() { return Code("\033[33m"); }
-const char* Plain() { return Code("\033[0m"); }
+const char* ResetColour() { return Code("\033[0m"); }
 
-void Complain(const char* text) { std::fprintf(stderr, "%svelora-play:%s %s\n", Code("\033[31m"), Plain(), text); }
+void PrintError(const char* text) {
+  std::fprintf(stderr, "%svelora-play:%s %s\n", Code("\033[31m"), ResetColour(), text);
+}
 
 }  // namespace player

@@ -1,23 +1,23 @@
-// The program's output streams and their colours. For the main thread.
+// The program's output streams and their colours. Not thread-safe.
 #pragma once
 
 namespace player {
 
 // Puts both streams in binary mode and line-buffers stdout, so that output is identical on all systems and in order.
-// Finds out which streams are terminals. Call it first.
+// Must be called before the other functions.
 void PrepareOutput();
 
 // Returns whether stdout is a terminal.
 bool IsTerminal();
 
-// Returns whether stderr shows colours: it is a terminal and NO_COLOR is not set.
+// Returns whether to use colours on stderr: it is a terminal, and NO_COLOR is not set.
 bool HasColour();
 
-// The codes around a warning's first word on stderr; empty without colours.
+// Return the escape codes to put around yellow text on stderr; empty strings without colours.
 const char* Yellow();
-const char* Plain();
+const char* ResetColour();
 
 // Prints "velora-play: TEXT" on stderr.
-void Complain(const char* text);
+void PrintError(const char* text);
 
 }  // namespace player

@@ -58,7 +58,7 @@ std::string Quoted(std::string_view text) {
   return quoted += '"';
 }
 
-// Writes a row of the phase, with further members in `rest`.
+// Writes an event with that phase. `rest` has its other members.
 void Write(const char* phase, Track track, const std::string& rest) {
   const std::chrono::duration<double, std::micro> time = Clock::now() - timeline.start;
   char row[96];
@@ -105,7 +105,7 @@ void CloseTimeline() {
   while (!timeline.openSlices.empty()) EndSlice();
   timeline.file << "]\n";
   timeline.file.close();
-  if (!timeline.file) Complain(("cannot write " + timeline.name).c_str());
+  if (!timeline.file) PrintError(("cannot write " + timeline.name).c_str());
 }
 
 }  // namespace player

@@ -16,7 +16,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 constexpr Clock::duration kInterval = std::chrono::milliseconds(150);
 
-// What tells one content of a file from another. A file that cannot be read has the default.
+// Identifies a version of a file. That of an unreadable file is the default.
 struct Stamp {
   std::filesystem::file_time_type time{};
   std::uintmax_t size = 0;
@@ -29,10 +29,10 @@ struct File {
 };
 
 std::vector<File> files;
-Clock::time_point lastLook;
+Clock::time_point lastCheck;
 bool hasChanged = false;
 
-Stamp StampOf(const std::filesystem::path& path) {
+Stamp GetStamp(const std::filesystem::path& path) {
   std::error_code error;
   Stamp stamp;
   stamp.time = std::filesystem::last_write_time(path, error);
@@ -43,26 +43,26 @@ Stamp StampOf(const std::filesystem::path& path) {
 void Watch(const std::filesystem::path& path) {
   for (const File& file : files)
     if (file.path == path) return;
-  files.push_back({path, StampOf(path)});
+  files.push_back({path, GetStamp(path)});
 }
 
-// A file that is missing, as it may be for a moment while an editor writes it, has not changed.
+// Returns false for a missing file, since an editor may delete a file just before it writes it.
 bool HasChanged(const File& file) {
-  const Stamp stamp = StampOf(file.path);
+  const Stamp stamp = GetStamp(file.path);
   return stamp != Stamp() && stamp != file.stamp;
 }
 
-void Look() {
-  lastLook = Clock::now();
+void CheckFiles() {
+  lastCheck = Clock::now();
   for (const File& file : files) {
     if (hasChanged || !HasChanged(file)) continue;
     hasChanged = true;
-    std::fprintf(stderr, "%s[watch]%s %s has changed\n", Yellow(), Plain(), file.path.string().c_str());
+    std::fprintf(stderr, "%s[watch]%s %s has changed\n", Yellow(), ResetColour(), file.path.string().c_str());
   }
 }
 
-// Calls the searcher for Lua modules, the first upvalue, after it has watched the file that this finds. The other
-// upvalues are package.searchpath and the table `package`.
+// Watches the module's file, then calls the standard searcher. Upvalues: the searcher for Lua modules,
+// package.searchpath, the table `package`.
 int Search(lua_State* L) {
   lua_settop(L, 1);
   lua_pushvalue(L, lua_upvalueindex(2));
@@ -97,7 +97,7 @@ void WatchModules(lua_State* L) {
 }
 
 bool WatchedFileChanged() {
-  if (!files.empty() && !hasChanged && Clock::now() - lastLook >= kInterval) Look();
+  if (!files.empty() && !hasChanged && Clock::now() - lastCheck >= kInterval) CheckFiles();
   return hasChanged;
 }
 
@@ -106,7 +106,7 @@ bool WaitForChange() {
     if (Interrupted()) return false;
     std::this_thread::sleep_for(kInterval);
   }
-  std::this_thread::sleep_for(kInterval);  // the rest of the change
+  std::this_thread::sleep_for(kInterval);  // the editor may still be writing
   return !Interrupted();
 }
 

@@ -1,4 +1,4 @@
-// --watch: plays the script again when a file changes that it was loaded from. Looks at the files a few times a second.
+// --watch: detects changes of the script and of its modules, by comparing time and size of the files.
 #pragma once
 
 #include <filesystem>
@@ -6,13 +6,13 @@
 
 namespace player {
 
-// Starts to watch the script, and no other file.
+// Starts to watch the script, and stops watching all other files.
 void WatchScript(const std::filesystem::path& script);
 
-// From now on, watches each file that `require` loads a module from, or fails to. May raise a memory error.
+// Makes `require` watch each file that it finds, even if loading it fails. May raise a memory error.
 void WatchModules(lua_State* L);
 
-// Returns whether a watched file has changed. Without one, always false.
+// Returns whether a watched file has changed. Checks the files at most every 150 ms.
 bool WatchedFileChanged();
 
 // Waits until a watched file has changed. Returns false if Ctrl-C comes first.
