@@ -1,10 +1,10 @@
--- What the reference says beyond the annotations, by page. The tests play the examples and check the replies.
+-- The parts of the reference that are not in the annotations, by page. The tests run the examples and check `replies`.
 --   guide     chapters of docs/scripting.md
 --   examples  scripts of examples/
---   example   a script; what it prints
---   replies   per call: its name; the events that follow; the result that offline.answer sets to rehearse a failure;
---             the event that follows then, nil if none; what its callback receives first (of an order: its status).
---             Results and received values are Lua expressions.
+--   example   a script and its output
+--   replies   for each call: its name; the events that follow; the argument of offline.answer that makes it fail; the
+--             event that follows the failure, or nil; the first argument of that event's callback (for an order, its
+--             status). Arguments are Lua expressions.
 local pages = {}
 
 pages["Start and login"] = {
@@ -313,7 +313,7 @@ pages["Downloads"] = {
   example = { [[
 -- map.lua
 velora.setOnDownloadProgress(function(text) print("progress: " .. text) end)
-velora.setOnDownloadFinish(function() end) -- DownloadFinish2 tells more
+velora.setOnDownloadFinish(function() end) -- DownloadFinish2 has more
 velora.setOnDownloadFinish2(function(text, bytes)
   print("end: " .. text .. (bytes and ", " .. #bytes .. " bytes" or ", no data"))
   if not bytes then player.quit() end

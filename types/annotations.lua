@@ -1,8 +1,8 @@
 -- Reads annotation files in the form of velora.lua, for the reference, the luacheck globals and the tests.
 local annotations = {}
 
--- Returns the type at the start of `text`, and what follows it. A blank ends a type, except inside brackets and before
--- the result of a function type.
+-- Returns the type at the start of `text`, and the rest of `text`. A space ends a type, except inside brackets and
+-- before the result of a function type.
 local function takeType(text)
   local depth, i = 0, 1
   while i <= #text do
@@ -34,13 +34,13 @@ local function splitAtCommas(text)
   return parts[1] == "" and {} or parts
 end
 
--- Returns a parameter `name` or `name?`.
+-- Returns the description of a parameter, whose name ends with `?` if it is optional.
 local function parameter(name, type, text)
   local bare, mark = name:match("^([%w_.]+)(%??)$")
   return { name = bare, type = type, optional = mark == "?", text = text }
 end
 
--- Returns the parameters and results of a function type, `fun(a: T, b?: U): V`; nil for any other type.
+-- Returns the parameters and results of a function type, `fun(a: T, b?: U): V`, or nil if it is another type.
 function annotations.signature(type)
   local list, result = type:match("^fun(%b()):?%s*(.*)$")
   if not list then return nil end
@@ -52,7 +52,7 @@ function annotations.signature(type)
   return params, result ~= "" and { { type = result } } or {}
 end
 
--- What each tag adds to its block.
+-- The function that adds each tag to the current block.
 local tags = {
   class = function(block, rest) block.class = { kind = "class", name = rest, fields = {}, text = block.text } end,
   alias = function(block, rest)
@@ -101,8 +101,8 @@ local function finish(items, block, line)
   if block.alias then items[#items + 1] = block.alias end
   local owner, separator, name = line:match("^function ([%w_.]+)([.:])([%w_]+)%(")
   local value = line:match("^([%w_.]+) = {}$")
-  assert(not (block.alias and owner), "editors show the description with the alias, not with the function: " .. line)
-  assert(owner or value or line == "", "not understood: " .. line)
+  assert(not (block.alias and owner), "editors show the description for the alias, not the function: " .. line)
+  assert(owner or value or line == "", "unknown syntax: " .. line)
   if owner then
     items[#items + 1] = functionItem(block, owner, separator, name)
   elseif value then
@@ -155,8 +155,8 @@ local function member(field)
   return { kind = "constant", type = field.type, text = field.text }
 end
 
--- Returns the global tables that the items describe, by name: {kind = "table", fields}, {kind = "function", params,
--- returns, text} and {kind = "constant", type, text}. Classes without a table are left out.
+-- Returns the described global tables by name. Members are {kind = "table", fields}, {kind = "function", params,
+-- returns, text} or {kind = "constant", type, text}. Classes without a table are omitted.
 function annotations.globals(items)
   local globals, values = {}, {}
   for _, item in ipairs(items) do

@@ -1,5 +1,5 @@
--- Describes the annotated globals to luacheck: returns a table for its `stds` for each annotation file. The files are
--- looked for in the folder of this file. In a .luacheckrc:
+-- Returns the annotated globals for luacheck: a table for `stds` for each annotation file in this folder, by name. In a
+-- .luacheckrc:
 --
 --   stds.velora = dofile("types/luacheck.lua").velora
 --   std = "lua53+velora"
@@ -9,7 +9,7 @@ local annotations = dofile(folder .. "annotations.lua")
 local function define(fields)
   local definition = {}
   for name, member in pairs(fields) do
-    -- Any field may be read of a constant, since strings have methods.
+    -- Any field of a constant may be read, since strings have methods.
     definition[name] = member.fields and { fields = define(member.fields) } or { other_fields = true }
   end
   return definition

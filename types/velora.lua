@@ -1,34 +1,37 @@
 ---@meta _
 
 -- # The table velora
--- Scripts reach the SDK through one global table, `velora`. These rules apply throughout:
+-- Scripts call the SDK through one global table, `velora`. These rules apply to all of it:
 --
 -- - Functions return at once. Results that take longer arrive as events, on a later frame: "The result arrives as
 --   LoginDone" means that the callback set with `setOnLoginDone` is called.
--- - A call with wrong arguments does nothing and returns nil. A few functions raise an error instead; their
+-- - A call with bad arguments does nothing and returns nil. A few functions raise an error instead; their
 --   descriptions say so. Arguments beyond those listed are ignored. Every function raises an error if a list argument
 --   is longer than 1,048,576 elements.
 -- - A parameter of type `Text` takes a string, or a number, which is converted to a string. The SDK receives it up to
 --   its first zero byte.
 -- - A parameter of type integer takes only Lua integers: 3, but not 3.0 or "3". The SDK receives the low 32 bits, with
 --   sign. Setters of objects are less strict, see below.
--- - A type is marked `?` if the value can be nil although all arguments are right: a result that the SDK does not have,
---   an object or data that an event does not carry. If the SDK puts an empty object into a list, that element is
---   missing, and `ipairs` ends there.
+-- - A type is marked `?` if the value can be nil even with good arguments: the SDK has no such result, or the event has
+--   no object or data. If the SDK puts an empty object into a list, that element is nil, and `ipairs` ends there.
 -- - Tables are copies, except that of `getSyncDownloadHandler`: changing one changes nothing else.
--- - "Defined by the SDK" and similar words mark what only the SDK's own documentation tells. "Offline" marks what holds
---   for the offline runtime of `velora-play`, and need not hold for the SDK.
+-- - "Defined by the SDK" and similar words refer to the SDK's own documentation. "Offline" refers to the offline
+--   runtime of `velora-play`; the SDK may behave differently.
 --
 -- Objects of the seven classes have methods, as in `order:get_orderId()`. `tostring` returns a readable form of all
 -- except PadEvent, and raises an error if the SDK has none. Descriptions of fields follow the fields' names; the SDK
 -- defines what it stores there.
 --
--- A setter converts its value to the field's type. A string field stores the empty string for anything but a string or
--- number. A number field stores 0 for anything that does not convert (3.0 and "3" convert to an integer, 2.5 does not).
--- A boolean field takes any value: nil and false are false, all others true. A setter of a map or list raises an error
--- if the value is not a table and leaves out elements that it cannot convert, but stores 0 for such a value of an
--- integer map. `set_arrPriceLocaleId` is the reverse: it ignores a value that is not a table, and raises an error for
--- an element that is neither a string nor a number.
+-- A setter converts its value to the field's type:
+--
+-- - A string field stores the empty string for a value that is neither a string nor a number.
+-- - A number field stores 0 for a value that cannot be converted. 3.0 and "3" can be converted to an integer, 2.5
+--   cannot.
+-- - A boolean field takes any value: nil and false are false, all others true.
+-- - A map or list field raises an error if the value is not a table. Elements that cannot be converted are left out; in
+--   an integer map, such a value becomes 0.
+-- - `set_arrPriceLocaleId` does the reverse: it ignores a value that is not a table, and raises an error for an element
+--   that is neither a string nor a number.
 
 -- ## The table
 
@@ -39,12 +42,12 @@
 ---@class velora
 velora = {}
 
----Empty; reserved for later use.
+---An empty table, reserved for later use.
 velora.utils = {}
 
 -- ## Setting callbacks
--- An event has one callback. `setOn…` sets it, in place of the one before, and changes nothing if its argument is not a
--- function. `getOn…` returns it, or nil. An error in a callback is logged, and the next event is delivered as usual.
+-- Each event has one callback. `setOn…` replaces it, and does nothing if its argument is not a function. `getOn…`
+-- returns it, or nil if none is set. An error in a callback is logged, and the next event is delivered as usual.
 
 -- # Start and login
 -- Starting the SDK, logging in and out, the account and its views, leaving the game.
@@ -60,7 +63,7 @@ function velora.isInit() end
 
 ---@alias velora.OnFinishInit fun(code: integer)
 
----Sets the callback of FinishInit, which comes when the start of the SDK has ended. It receives `code`, one of
+---Sets the callback of FinishInit, which occurs when the start of the SDK has ended. It receives `code`, one of
 ---`FINISH_INIT_*`.
 ---@param callback velora.OnFinishInit
 function velora.setOnFinishInit(callback) end
@@ -71,8 +74,8 @@ function velora.getOnFinishInit() end
 
 ---@alias velora.OnStartupDone fun()
 
----Sets the callback of StartupDone, which comes when the SDK's start-up, with its splash screen, has ended. It receives
----nothing.
+---Sets the callback of StartupDone, which occurs when the SDK's start-up, with its splash screen, has ended. It
+---receives nothing.
 ---@param callback velora.OnStartupDone
 function velora.setOnStartupDone(callback) end
 
@@ -82,7 +85,7 @@ function velora.getOnStartupDone() end
 
 ---@alias velora.OnStartupClickSplash fun()
 
----Sets the callback of StartupClickSplash, which comes when the player taps the splash screen. It receives nothing.
+---Sets the callback of StartupClickSplash, which occurs when the player taps the splash screen. It receives nothing.
 ---@param callback velora.OnStartupClickSplash
 function velora.setOnStartupClickSplash(callback) end
 
@@ -123,7 +126,7 @@ function velora.getAuthTypeName() end
 
 ---@alias velora.OnLoginDone fun(code: integer)
 
----Sets the callback of LoginDone, which comes when a login, a change of account or the binding of a guest account has
+---Sets the callback of LoginDone, which occurs when a login, a change of account or the binding of a guest account has
 ---ended. It receives `code`, one of `LOGIN_DONE_*`.
 ---@param callback velora.OnLoginDone
 function velora.setOnLoginDone(callback) end
@@ -134,7 +137,7 @@ function velora.getOnLoginDone() end
 
 ---@alias velora.OnLogoutDone fun(code: integer)
 
----Sets the callback of LogoutDone, which comes when a logout has ended. It receives `code`, one of `LOGOUT_DONE_*`.
+---Sets the callback of LogoutDone, which occurs when a logout has ended. It receives `code`, one of `LOGOUT_DONE_*`.
 ---@param callback velora.OnLogoutDone
 function velora.setOnLogoutDone(callback) end
 
@@ -144,7 +147,7 @@ function velora.getOnLogoutDone() end
 
 ---@alias velora.OnRegister fun()
 
----Sets the callback of Register, which comes when a new account has been registered. It receives nothing.
+---Sets the callback of Register, which occurs when a new account has been registered. It receives nothing.
 ---@param callback velora.OnRegister
 function velora.setOnRegister(callback) end
 
@@ -268,12 +271,12 @@ function velora.zvGuestBind() end
 ---@return boolean
 function velora.isBinded(name) end
 
----Opens the SDK's account manager. CloseManagerView comes when it closes; offline it closes at once.
+---Opens the SDK's account manager. CloseManagerView follows when it closes; offline it closes at once.
 function velora.zvOpenManager() end
 
 ---@alias velora.OnCloseManagerView fun()
 
----Sets the callback of CloseManagerView, which comes when the account manager has been closed. It receives nothing.
+---Sets the callback of CloseManagerView, which occurs when the account manager has been closed. It receives nothing.
 ---@param callback velora.OnCloseManagerView
 function velora.setOnCloseManagerView(callback) end
 
@@ -295,7 +298,7 @@ function velora.zvShowCompactView(shown) end
 
 ---@alias velora.OnProtocolFinish fun(code: integer)
 
----Sets the callback of ProtocolFinish, which comes when the user agreement has been dealt with. It receives `code`, one
+---Sets the callback of ProtocolFinish, which occurs when the user agreement has been answered. It receives `code`, one
 ---of `PROTOCOL_FINISH_*`.
 ---@param callback velora.OnProtocolFinish
 function velora.setOnProtocolFinish(callback) end
@@ -317,7 +320,7 @@ function velora.zvVerifyMobile(number) end
 
 ---@alias velora.OnVerifySuccess fun(code: integer, text: string)
 
----Sets the callback of VerifySuccess, which comes when the mobile number has been verified. It receives `code` and
+---Sets the callback of VerifySuccess, which occurs when the mobile number has been verified. It receives `code` and
 ---`text`, which the SDK defines; offline, `code` is 0 and `text` the number given to `zvVerifyMobile`.
 ---@param callback velora.OnVerifySuccess
 function velora.setOnVerifySuccess(callback) end
@@ -328,7 +331,7 @@ function velora.getOnVerifySuccess() end
 
 ---@alias velora.OnVerifyFailure fun(code: integer, text: string)
 
----Sets the callback of VerifyFailure, which comes when the mobile number could not be verified. It receives `code` and
+---Sets the callback of VerifyFailure, which occurs when the mobile number could not be verified. It receives `code` and
 ---`text`, which the SDK defines; offline, `text` is the number given to `zvVerifyMobile`.
 ---@param callback velora.OnVerifyFailure
 function velora.setOnVerifyFailure(callback) end
@@ -357,8 +360,8 @@ function velora.zvGetAnnouncementInfo() end
 
 ---@alias velora.OnStartupGetNoticeMsgDone fun(text: string)
 
----Sets the callback of StartupGetNoticeMsgDone, which comes with a notice or announcement. It receives `text`, in a
----form that the SDK defines.
+---Sets the callback of StartupGetNoticeMsgDone, which delivers a notice or announcement. It receives `text`, in a form
+---that the SDK defines.
 ---@param callback velora.OnStartupGetNoticeMsgDone
 function velora.setOnStartupGetNoticeMsgDone(callback) end
 
@@ -368,12 +371,12 @@ function velora.getOnStartupGetNoticeMsgDone() end
 
 -- ## Pausing and leaving
 
----Opens the SDK's pause view. ClosePauseView and ContinueGame come when it closes; offline it closes at once.
+---Opens the SDK's pause view. ClosePauseView and ContinueGame follow when it closes; offline it closes at once.
 function velora.zvOpenPauseView() end
 
 ---@alias velora.OnClosePauseView fun()
 
----Sets the callback of ClosePauseView, which comes when the pause view has been closed. It receives nothing.
+---Sets the callback of ClosePauseView, which occurs when the pause view has been closed. It receives nothing.
 ---@param callback velora.OnClosePauseView
 function velora.setOnClosePauseView(callback) end
 
@@ -383,7 +386,7 @@ function velora.getOnClosePauseView() end
 
 ---@alias velora.OnContinueGame fun()
 
----Sets the callback of ContinueGame, which comes when the game is to go on after a pause. It receives nothing.
+---Sets the callback of ContinueGame, which occurs when the game is to go on after a pause. It receives nothing.
 ---@param callback velora.OnContinueGame
 function velora.setOnContinueGame(callback) end
 
@@ -391,8 +394,8 @@ function velora.setOnContinueGame(callback) end
 ---@return velora.OnContinueGame? callback
 function velora.getOnContinueGame() end
 
----Asks the player whether to leave the game. ExitApp comes if the player agrees, ExitOpenExitViewFailed if the SDK has
----no view to ask with.
+---Asks the player whether to leave the game. ExitApp follows if the player agrees, ExitOpenExitViewFailed if the SDK
+---has no such view.
 function velora.zvOpenExitView() end
 
 ---Leaves the game through the SDK. Offline, ExitApp follows.
@@ -400,7 +403,7 @@ function velora.exitApp() end
 
 ---@alias velora.OnExitApp fun()
 
----Sets the callback of ExitApp, which comes when the game is to end. It receives nothing.
+---Sets the callback of ExitApp, which occurs when the game is to end. It receives nothing.
 ---@param callback velora.OnExitApp
 function velora.setOnExitApp(callback) end
 
@@ -410,8 +413,8 @@ function velora.getOnExitApp() end
 
 ---@alias velora.OnExitOpenExitViewFailed fun()
 
----Sets the callback of ExitOpenExitViewFailed, which comes when the exit view could not be opened, so that the game has
----to ask the player itself. It receives nothing.
+---Sets the callback of ExitOpenExitViewFailed, which occurs when the exit view could not be opened, so that the game
+---has to ask the player itself. It receives nothing.
 ---@param callback velora.OnExitOpenExitViewFailed
 function velora.setOnExitOpenExitViewFailed(callback) end
 
@@ -627,7 +630,7 @@ function velora.zvExtendFunc(command) end
 
 ---@alias velora.OnExtendFuncCall fun(text: string)
 
----Sets the callback of ExtendFuncCall, which comes when the SDK replies to an extension command or calls the game. It
+---Sets the callback of ExtendFuncCall, which occurs when the SDK replies to an extension command or calls the game. It
 ---receives `text`, in a form that the SDK defines; offline it is the command given to `zvExtendFunc`.
 ---@param callback velora.OnExtendFuncCall
 function velora.setOnExtendFuncCall(callback) end
@@ -678,11 +681,11 @@ function velora.zvJFLog(text) end
 ---@param productIds velora.Text[]
 function velora.zvQuerySkuDetails(itemType, productIds) end
 
----Has an order checked, which starts the purchase. The result arrives as OrderCheckDone.
+---Checks an order, which starts the purchase. The result arrives as OrderCheckDone.
 ---@param order velora.OrderInfo the SDK works on this record, not on a copy
 function velora.zvCheckOrder(order) end
 
----Has an order consumed, once the player has the goods. The result arrives as OrderCosumeDone.
+---Consumes an order. Call it after the player has received the goods. The result arrives as OrderCosumeDone.
 ---@param order velora.OrderInfo
 function velora.zvConsume(order) end
 
@@ -715,7 +718,7 @@ function velora.DRPF(text) end
 
 ---@alias velora.OnQuerySkuDetailsFinished fun(skus: velora.SkuDetailsInfo[])
 
----Sets the callback of QuerySkuDetailsFinished, which comes with the store's items. It receives `skus`, a list of
+---Sets the callback of QuerySkuDetailsFinished, which delivers the store's items. It receives `skus`, a list of
 ---`SkuDetailsInfo`; empty if there are none or if the query has failed.
 ---@param callback velora.OnQuerySkuDetailsFinished
 function velora.setOnQuerySkuDetailsFinished(callback) end
@@ -726,7 +729,7 @@ function velora.getOnQuerySkuDetailsFinished() end
 
 ---@alias velora.OnOrderCheckDone fun(order: velora.OrderInfo?)
 
----Sets the callback of OrderCheckDone, which comes when an order has been checked. It receives `order`, whose
+---Sets the callback of OrderCheckDone, which occurs when an order has been checked. It receives `order`, whose
 ---`get_orderStatus` tells the result, or nil if the SDK sends none.
 ---@param callback velora.OnOrderCheckDone
 function velora.setOnOrderCheckDone(callback) end
@@ -737,8 +740,8 @@ function velora.getOnOrderCheckDone() end
 
 ---@alias velora.OnOrderCosumeDone fun(order: velora.OrderInfo?)
 
----Sets the callback of OrderCosumeDone, which comes when an order has been consumed; the event's name is spelt like
----this. It receives `order`, whose `get_orderStatus` tells the result, or nil if the SDK sends none.
+---Sets the callback of OrderCosumeDone, which occurs when an order has been consumed. The event's name is spelt this
+---way. It receives `order`, whose `get_orderStatus` tells the result, or nil if the SDK sends none.
 ---@param callback velora.OnOrderCosumeDone
 function velora.setOnOrderCosumeDone(callback) end
 
@@ -758,13 +761,13 @@ function velora.getOnOrderCosumeDone() end
 
 -- ## OrderInfo
 
----A payment order. The functions that are not methods, such as `regProduct`, are the SDK's register of products.
+---A payment order. The functions that are not methods, such as `regProduct`, are the SDK's product registry.
 ---@class velora.OrderInfo
 ---@field get_aid fun(self: velora.OrderInfo): string? Defined by the SDK.
 ---@field set_aid fun(self: velora.OrderInfo, value: velora.Text) Defined by the SDK.
----@field get_count fun(self: velora.OrderInfo): integer How many of the product.
----@field set_count fun(self: velora.OrderInfo, value: integer) How many of the product.
----@field get_curOrderChannel fun(self: velora.OrderInfo): string? The channel that the order goes through now.
+---@field get_count fun(self: velora.OrderInfo): integer The quantity.
+---@field set_count fun(self: velora.OrderInfo, value: integer) The quantity.
+---@field get_curOrderChannel fun(self: velora.OrderInfo): string? The current channel of the order.
 ---@field get_externalChannelId fun(self: velora.OrderInfo): string? The id of an external channel.
 ---@field set_externalChannelId fun(self: velora.OrderInfo, value: velora.Text) The id of an external channel.
 ---@field get_ffChannel fun(self: velora.OrderInfo): string? Defined by the SDK.
@@ -801,8 +804,8 @@ function velora.getOnOrderCosumeDone() end
 ---@field set_orderId fun(self: velora.OrderInfo, value: velora.Text) The order's id.
 ---@field get_orderStatus fun(self: velora.OrderInfo): integer One of `ORDER_*`.
 ---@field set_orderStatus fun(self: velora.OrderInfo, value: integer) One of `ORDER_*`.
----@field get_productCurrentPrice fun(self: velora.OrderInfo): number The price now, in single precision.
----@field set_productCurrentPrice fun(self: velora.OrderInfo, value: number) The price now, in single precision.
+---@field get_productCurrentPrice fun(self: velora.OrderInfo): number The current price, in single precision.
+---@field set_productCurrentPrice fun(self: velora.OrderInfo, value: number) The current price, in single precision.
 ---@field get_productExchangeRatio fun(self: velora.OrderInfo): number The exchange ratio, as a float: 1.0.
 ---@field get_productId fun(self: velora.OrderInfo): string? The product's id.
 ---@field set_productId fun(self: velora.OrderInfo, value: velora.Text) The product's id.
@@ -908,7 +911,7 @@ function velora.OrderInfo:produceCartInfo() end
 
 -- ## ProductInfo
 
----A product for the register. It is a copy: changes reach the register only through `OrderInfo.regProduct`.
+---A product for the registry. It is a copy: changes reach the registry only through `OrderInfo.regProduct`.
 ---@class velora.ProductInfo
 ---@field get_productId fun(self: velora.ProductInfo): string The product's id.
 ---@field set_productId fun(self: velora.ProductInfo, value: velora.Text) The product's id.
@@ -1003,12 +1006,12 @@ function velora.zvInviteFriendList(first, second) end
 ---Asks whether the SDK's "daren" data has been updated. The result arrives as QueryIsDarenUpdated.
 function velora.zvIsDarenUpdated() end
 
----Opens the page of further games. The offline runtime only records the call.
+---Opens the page of other games. The offline runtime only records the call.
 function velora.zvMoreGame() end
 
 ---@alias velora.OnQueryMyAccountFinished fun(account: velora.AccountInfo?)
 
----Sets the callback of QueryMyAccountFinished, which comes with the player's own account. It receives `account`, or nil
+---Sets the callback of QueryMyAccountFinished, which delivers the player's own account. It receives `account`, or nil
 ---if the SDK sends none.
 ---@param callback velora.OnQueryMyAccountFinished
 function velora.setOnQueryMyAccountFinished(callback) end
@@ -1019,8 +1022,8 @@ function velora.getOnQueryMyAccountFinished() end
 
 ---@alias velora.OnQueryFriendListFinished fun(accounts: velora.AccountInfo[])
 
----Sets the callback of QueryFriendListFinished, which comes with the player's friends. It receives `accounts`, a list
----of `AccountInfo`; empty if there are none or if the query has failed.
+---Sets the callback of QueryFriendListFinished, which delivers the player's friends. It receives `accounts`, a list of
+---`AccountInfo`; empty if there are none or if the query has failed.
 ---@param callback velora.OnQueryFriendListFinished
 function velora.setOnQueryFriendListFinished(callback) end
 
@@ -1030,7 +1033,7 @@ function velora.getOnQueryFriendListFinished() end
 
 ---@alias velora.OnQueryFriendListInGameFinished fun(accounts: velora.AccountInfo[])
 
----Sets the callback of QueryFriendListInGameFinished, which comes with the friends who play this game. It receives
+---Sets the callback of QueryFriendListInGameFinished, which delivers the friends who play this game. It receives
 ---`accounts`, a list of `AccountInfo`; empty if there are none or if the query has failed.
 ---@param callback velora.OnQueryFriendListInGameFinished
 function velora.setOnQueryFriendListInGameFinished(callback) end
@@ -1041,7 +1044,7 @@ function velora.getOnQueryFriendListInGameFinished() end
 
 ---@alias velora.OnQueryAvailablesInviteesFinished fun(accounts: velora.AccountInfo[])
 
----Sets the callback of QueryAvailablesInviteesFinished, which comes with the accounts that can be invited. It receives
+---Sets the callback of QueryAvailablesInviteesFinished, which delivers the accounts that can be invited. It receives
 ---`accounts`, a list of `AccountInfo`; empty if there are none or if the query has failed.
 ---@param callback velora.OnQueryAvailablesInviteesFinished
 function velora.setOnQueryAvailablesInviteesFinished(callback) end
@@ -1052,8 +1055,8 @@ function velora.getOnQueryAvailablesInviteesFinished() end
 
 ---@alias velora.OnQueryInviterListFinished fun(accounts: velora.AccountInfo[])
 
----Sets the callback of QueryInviterListFinished, which comes with the accounts that have invited the player. It
----receives `accounts`, a list of `AccountInfo`; empty if there are none or if the query has failed.
+---Sets the callback of QueryInviterListFinished, which delivers the accounts that have invited the player. It receives
+---`accounts`, a list of `AccountInfo`; empty if there are none or if the query has failed.
 ---@param callback velora.OnQueryInviterListFinished
 function velora.setOnQueryInviterListFinished(callback) end
 
@@ -1063,7 +1066,7 @@ function velora.getOnQueryInviterListFinished() end
 
 ---@alias velora.OnQueryApplyFriendFinished fun(success: boolean)
 
----Sets the callback of QueryApplyFriendFinished, which comes when a friend request has been sent or has failed. It
+---Sets the callback of QueryApplyFriendFinished, which occurs when a friend request has been sent or has failed. It
 ---receives `success`.
 ---@param callback velora.OnQueryApplyFriendFinished
 function velora.setOnQueryApplyFriendFinished(callback) end
@@ -1074,7 +1077,7 @@ function velora.getOnQueryApplyFriendFinished() end
 
 ---@alias velora.OnQueryInviteFriendListFinished fun(texts: string[])
 
----Sets the callback of QueryInviteFriendListFinished, which comes when friends have been invited. It receives `texts`,
+---Sets the callback of QueryInviteFriendListFinished, which occurs when friends have been invited. It receives `texts`,
 ---a list of strings that the SDK defines; offline they are the two strings given to `zvInviteFriendList`, or none after
 ---a failure.
 ---@param callback velora.OnQueryInviteFriendListFinished
@@ -1086,8 +1089,8 @@ function velora.getOnQueryInviteFriendListFinished() end
 
 ---@alias velora.OnQueryIsDarenUpdated fun(updated: boolean)
 
----Sets the callback of QueryIsDarenUpdated, which comes in reply to `zvIsDarenUpdated`. It receives `updated`, whether
----the "daren" data has been updated.
+---Sets the callback of QueryIsDarenUpdated, the reply to `zvIsDarenUpdated`. It receives `updated`, whether the "daren"
+---data has been updated.
 ---@param callback velora.OnQueryIsDarenUpdated
 function velora.setOnQueryIsDarenUpdated(callback) end
 
@@ -1123,14 +1126,14 @@ function velora.zvDisplayAchievement() end
 ---@param count integer
 function velora.zvUpdateEvent(name, count) end
 
----Opens a view of quests. QuestCompleted comes for each completed quest; offline, for every quest shown. Raises an
+---Opens a view of quests. QuestCompleted follows for each completed quest; offline, for every quest shown. Raises an
 ---error if the argument is not a table. An element that does not convert to an integer counts as 0.
 ---@param quests integer[]
 function velora.zvDisplayQuests(quests) end
 
 ---@alias velora.OnQueryRankFinished fun(accounts: velora.AccountInfo[])
 
----Sets the callback of QueryRankFinished, which comes with a ranking. It receives `accounts`, a list of `AccountInfo`;
+---Sets the callback of QueryRankFinished, which delivers a ranking. It receives `accounts`, a list of `AccountInfo`;
 ---empty if there are none or if the query has failed.
 ---@param callback velora.OnQueryRankFinished
 function velora.setOnQueryRankFinished(callback) end
@@ -1141,8 +1144,8 @@ function velora.getOnQueryRankFinished() end
 
 ---@alias velora.OnQueryRankUpdateFinished fun(success: boolean)
 
----Sets the callback of QueryRankUpdateFinished, which comes when a score has been reported or could not be. It receives
----`success`.
+---Sets the callback of QueryRankUpdateFinished, which occurs when a score has been reported or could not be. It
+---receives `success`.
 ---@param callback velora.OnQueryRankUpdateFinished
 function velora.setOnQueryRankUpdateFinished(callback) end
 
@@ -1152,8 +1155,8 @@ function velora.getOnQueryRankUpdateFinished() end
 
 ---@alias velora.OnQueryRankUpdateAchievement fun(success: boolean)
 
----Sets the callback of QueryRankUpdateAchievement, which comes when the progress of an achievement has been reported or
----could not be. It receives `success`.
+---Sets the callback of QueryRankUpdateAchievement, which occurs when the progress of an achievement has been reported
+---or could not be. It receives `success`.
 ---@param callback velora.OnQueryRankUpdateAchievement
 function velora.setOnQueryRankUpdateAchievement(callback) end
 
@@ -1163,8 +1166,8 @@ function velora.getOnQueryRankUpdateAchievement() end
 
 ---@alias velora.OnQuestCompleted fun(text: string)
 
----Sets the callback of QuestCompleted, which comes when a quest has been completed. It receives `text`, which names the
----quest in a form that the SDK defines; offline it is the quest's number.
+---Sets the callback of QuestCompleted, which occurs when a quest has been completed. It receives `text`, which names
+---the quest in a form that the SDK defines; offline it is the quest's number.
 ---@param callback velora.OnQuestCompleted
 function velora.setOnQuestCompleted(callback) end
 
@@ -1180,8 +1183,8 @@ function velora.getOnQuestCompleted() end
 ---@field set_accountId fun(self: velora.AccountInfo, value: velora.Text) The account's id.
 ---@field get_icon fun(self: velora.AccountInfo): string? The picture.
 ---@field set_icon fun(self: velora.AccountInfo, value: velora.Text) The picture.
----@field get_idType fun(self: velora.AccountInfo): string? What kind of id it is.
----@field set_idType fun(self: velora.AccountInfo, value: velora.Text) What kind of id it is.
+---@field get_idType fun(self: velora.AccountInfo): string? The type of the id.
+---@field set_idType fun(self: velora.AccountInfo, value: velora.Text) The type of the id.
 ---@field get_nickname fun(self: velora.AccountInfo): string? The nickname.
 ---@field set_nickname fun(self: velora.AccountInfo, value: velora.Text) The nickname.
 ---@field get_rank fun(self: velora.AccountInfo): integer The place in the ranking, 64 bits.
@@ -1198,8 +1201,8 @@ function velora.getOnQuestCompleted() end
 ---@field set_inGame fun(self: velora.AccountInfo, value: boolean) Whether it plays this game.
 velora.AccountInfo = {}
 
----Creates an account. Pass no argument rather than nil, which is a wrong argument. Raises an error if the SDK returns
----no record.
+---Creates an account. Pass no argument rather than nil, which is a bad argument. Raises an error if the SDK returns no
+---record.
 ---@overload fun(): velora.AccountInfo
 ---@param text velora.Text the SDK defines its meaning
 ---@return velora.AccountInfo
@@ -1217,7 +1220,7 @@ function velora.AccountInfo.new(text) end
 ---@field set_count fun(self: velora.QueryRankInfo, value: integer) How many places.
 velora.QueryRankInfo = {}
 
----Creates a ranking query. Pass no argument rather than nil, which is a wrong argument. Raises an error if the SDK
+---Creates a ranking query. Pass no argument rather than nil, which is a bad argument. Raises an error if the SDK
 ---returns no record.
 ---@overload fun(): velora.QueryRankInfo
 ---@param text velora.Text the SDK defines its meaning
@@ -1254,7 +1257,7 @@ function velora.getLastShareMessage() end
 
 ---@alias velora.OnShareFinished fun(success: boolean)
 
----Sets the callback of ShareFinished, which comes when a request has been shared or could not be. It receives
+---Sets the callback of ShareFinished, which occurs when a request has been shared or could not be. It receives
 ---`success`.
 ---@param callback velora.OnShareFinished
 function velora.setOnShareFinished(callback) end
@@ -1342,7 +1345,7 @@ function velora.getOnShareFinished() end
 ---@field set_shareData fun(self: velora.ShareInfo, value: table<velora.Text, velora.Text>) Further data by name.
 velora.ShareInfo = {}
 
----Creates a share request. Pass no argument rather than nil, which is a wrong argument. Raises an error if the SDK
+---Creates a share request. Pass no argument rather than nil, which is a bad argument. Raises an error if the SDK
 ---returns no record.
 ---@overload fun(): velora.ShareInfo
 ---@param text velora.Text the SDK defines its meaning
@@ -1414,11 +1417,11 @@ function velora.ShareInfo.new(text) end
 ---@field ZV_SHARE_TYPE_TIKTOK integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
 
 -- ### Mini program
--- A property name, a string, and integers for `set_miniProgramType`. `MINIPTOGRAM_TYPE_RELEASE` is spelt like this.
+-- A property name, a string, and integers for `set_miniProgramType`. `MINIPTOGRAM_TYPE_RELEASE` is spelt this way.
 
 ---@class velora
 ---@field MINI_PROGRAM_RELEASE_TYPE string Property name. Value and meaning are the SDK's.
----@field MINIPTOGRAM_TYPE_RELEASE integer Released, for `set_miniProgramType`. Spelt like this. The value is the SDK's.
+---@field MINIPTOGRAM_TYPE_RELEASE integer Released, for `set_miniProgramType`. Spelt this way. The value is the SDK's.
 ---@field MINIPROGRAM_TYPE_TEST integer Test version, for `set_miniProgramType`. The value is the SDK's.
 ---@field MINIPROGRAM_TYPE_PREVIEW integer Preview, for `set_miniProgramType`. The value is the SDK's.
 
@@ -1442,8 +1445,8 @@ function velora.zvSendPushNotification(text, accountIds) end
 
 ---@alias velora.OnPushGetUserPushFinished fun(enabled: boolean)
 
----Sets the callback of PushGetUserPushFinished, which comes in reply to `zvGetUsePushNotification`. It receives
----`enabled`, whether push notifications are enabled.
+---Sets the callback of PushGetUserPushFinished, the reply to `zvGetUsePushNotification`. It receives `enabled`, whether
+---push notifications are enabled.
 ---@param callback velora.OnPushGetUserPushFinished
 function velora.setOnPushGetUserPushFinished(callback) end
 
@@ -1453,7 +1456,7 @@ function velora.getOnPushGetUserPushFinished() end
 
 ---@alias velora.OnPushSetUserPushFinished fun(success: boolean)
 
----Sets the callback of PushSetUserPushFinished, which comes when push notifications have been enabled or disabled or
+---Sets the callback of PushSetUserPushFinished, which occurs when push notifications have been enabled or disabled or
 ---could not be. It receives `success`.
 ---@param callback velora.OnPushSetUserPushFinished
 function velora.setOnPushSetUserPushFinished(callback) end
@@ -1464,7 +1467,7 @@ function velora.getOnPushSetUserPushFinished() end
 
 ---@alias velora.OnPushSendPushNotificationFinished fun(success: boolean)
 
----Sets the callback of PushSendPushNotificationFinished, which comes when a push notification has been sent or could
+---Sets the callback of PushSendPushNotificationFinished, which occurs when a push notification has been sent or could
 ---not be. It receives `success`.
 ---@param callback velora.OnPushSendPushNotificationFinished
 function velora.setOnPushSendPushNotificationFinished(callback) end
@@ -1490,7 +1493,7 @@ function velora.zvHasNotification() end
 
 ---@alias velora.OnPushSendLocalNotificationFinished fun(code: integer)
 
----Sets the callback of PushSendLocalNotificationFinished, which comes when a local notification has been sent or could
+---Sets the callback of PushSendLocalNotificationFinished, which occurs when a local notification has been sent or could
 ---not be. It receives `code`, which the SDK defines; offline it is 0 for success and 1 for a failure.
 ---@param callback velora.OnPushSendLocalNotificationFinished
 function velora.setOnPushSendLocalNotificationFinished(callback) end
@@ -1501,7 +1504,7 @@ function velora.getOnPushSendLocalNotificationFinished() end
 
 ---@alias velora.OnCancelLocalPushFinished fun(success: boolean)
 
----Sets the callback of CancelLocalPushFinished, which comes when a local notification has been cancelled or could not
+---Sets the callback of CancelLocalPushFinished, which occurs when a local notification has been cancelled or could not
 ---be. It receives `success`.
 ---@param callback velora.OnCancelLocalPushFinished
 function velora.setOnCancelLocalPushFinished(callback) end
@@ -1514,7 +1517,7 @@ function velora.getOnCancelLocalPushFinished() end
 
 ---@alias velora.OnReceiveMsgNotification fun()
 
----Sets the callback of ReceiveMsgNotification, which comes when a message notification has been received. It receives
+---Sets the callback of ReceiveMsgNotification, which occurs when a message notification has been received. It receives
 ---nothing.
 ---@param callback velora.OnReceiveMsgNotification
 function velora.setOnReceiveMsgNotification(callback) end
@@ -1525,7 +1528,7 @@ function velora.getOnReceiveMsgNotification() end
 
 ---@alias velora.OnReceiveMsgEnterGame fun(first: string, second: string)
 
----Sets the callback of ReceiveMsgEnterGame, which comes when the player has entered the game from a message. It
+---Sets the callback of ReceiveMsgEnterGame, which occurs when the player has entered the game from a message. It
 ---receives two strings, `first` and `second`, which the SDK defines.
 ---@param callback velora.OnReceiveMsgEnterGame
 function velora.setOnReceiveMsgEnterGame(callback) end
@@ -1564,7 +1567,7 @@ function velora.zvSetZone(zone) end
 
 ---@alias velora.OnConnectToChannelFinished fun(code: integer)
 
----Sets the callback of ConnectToChannelFinished, which comes when an attempt to connect to the channel has ended. It
+---Sets the callback of ConnectToChannelFinished, which occurs when an attempt to connect to the channel has ended. It
 ---receives `code`, one of `CONNECT_*`.
 ---@param callback velora.OnConnectToChannelFinished
 function velora.setOnConnectToChannelFinished(callback) end
@@ -1575,7 +1578,7 @@ function velora.getOnConnectToChannelFinished() end
 
 ---@alias velora.OnDisconnectToChannelFinished fun(code: integer)
 
----Sets the callback of DisconnectToChannelFinished, which comes when an attempt to disconnect from the channel has
+---Sets the callback of DisconnectToChannelFinished, which occurs when an attempt to disconnect from the channel has
 ---ended. It receives `code`, which the SDK defines; offline it is 0 for success and 1 for a failure.
 ---@param callback velora.OnDisconnectToChannelFinished
 function velora.setOnDisconnectToChannelFinished(callback) end
@@ -1586,7 +1589,7 @@ function velora.getOnDisconnectToChannelFinished() end
 
 ---@alias velora.OnSelectChannelOptionFinished fun(success: boolean)
 
----Sets the callback of SelectChannelOptionFinished, which comes when a channel option has been selected or could not
+---Sets the callback of SelectChannelOptionFinished, which occurs when a channel option has been selected or could not
 ---be. It receives `success`.
 ---@param callback velora.OnSelectChannelOptionFinished
 function velora.setOnSelectChannelOptionFinished(callback) end
@@ -1632,7 +1635,7 @@ function velora.zvShowBoard(first, second, third) end
 
 ---@alias velora.OnWebviewNativeCall fun(first: string, second: string)
 
----Sets the callback of WebviewNativeCall, which comes when a page in the web view calls the game. It receives two
+---Sets the callback of WebviewNativeCall, which occurs when a page in the web view calls the game. It receives two
 ---strings, `first` and `second`, which the page and the SDK define.
 ---@param callback velora.OnWebviewNativeCall
 function velora.setOnWebviewNativeCall(callback) end
@@ -1661,13 +1664,13 @@ function velora.getOnWebviewNativeCall() end
 
 -- ## Other views
 
----Shows the view of rewards. ShowViewRewarded comes when a reward is due; offline ShowViewOpened or ShowViewFailed and,
----at the end, ShowViewClosed come as well. Raises an error if the argument is not a table. Leaves out elements that are
----neither strings nor numbers.
+---Shows the view of rewards. ShowViewRewarded follows when the player has earned a reward; offline ShowViewOpened or
+---ShowViewFailed and, at the end, ShowViewClosed follow as well. Raises an error if the argument is not a table. Leaves
+---out elements that are neither strings nor numbers.
 ---@param rewards velora.Text[]
 function velora.zvShowRewardView(rewards) end
 
----Opens the conversation with the support. Offline, ShowViewOpened or ShowViewFailed follows.
+---Opens the conversation with customer support. Offline, ShowViewOpened or ShowViewFailed follows.
 function velora.zvShowConversation() end
 
 ---Opens the frequently asked questions. Offline, ShowViewOpened or ShowViewFailed follows.
@@ -1689,7 +1692,7 @@ function velora.zvSetFloatBtnVisible(visible) end
 
 ---@alias velora.OnShowViewOpened fun()
 
----Sets the callback of ShowViewOpened, which comes when a view has opened. It receives nothing.
+---Sets the callback of ShowViewOpened, which occurs when a view has opened. It receives nothing.
 ---@param callback velora.OnShowViewOpened
 function velora.setOnShowViewOpened(callback) end
 
@@ -1699,7 +1702,7 @@ function velora.getOnShowViewOpened() end
 
 ---@alias velora.OnShowViewFailed fun()
 
----Sets the callback of ShowViewFailed, which comes when a view could not be opened. It receives nothing.
+---Sets the callback of ShowViewFailed, which occurs when a view could not be opened. It receives nothing.
 ---@param callback velora.OnShowViewFailed
 function velora.setOnShowViewFailed(callback) end
 
@@ -1709,7 +1712,7 @@ function velora.getOnShowViewFailed() end
 
 ---@alias velora.OnShowViewClosed fun()
 
----Sets the callback of ShowViewClosed, which comes when a view has been closed. It receives nothing.
+---Sets the callback of ShowViewClosed, which occurs when a view has been closed. It receives nothing.
 ---@param callback velora.OnShowViewClosed
 function velora.setOnShowViewClosed(callback) end
 
@@ -1719,7 +1722,7 @@ function velora.getOnShowViewClosed() end
 
 ---@alias velora.OnShowViewRewarded fun()
 
----Sets the callback of ShowViewRewarded, which comes when the player has earned the reward of a view. It receives
+---Sets the callback of ShowViewRewarded, which occurs when the player has earned the reward of a view. It receives
 ---nothing.
 ---@param callback velora.OnShowViewRewarded
 function velora.setOnShowViewRewarded(callback) end
@@ -1749,7 +1752,7 @@ function velora.zvPresentQRCodeScanner(text, number) end
 
 ---@alias velora.OnCreateQRCodeDone fun(text: string)
 
----Sets the callback of CreateQRCodeDone, which comes when a QR code has been created or could not be. It receives
+---Sets the callback of CreateQRCodeDone, which occurs when a QR code has been created or could not be. It receives
 ---`text`, which the SDK defines; offline it is the `path` given to `zvCreateQRCode`, or empty after a failure.
 ---@param callback velora.OnCreateQRCodeDone
 function velora.setOnCreateQRCodeDone(callback) end
@@ -1760,7 +1763,7 @@ function velora.getOnCreateQRCodeDone() end
 
 ---@alias velora.OnCodeScannerFinish fun(code: integer, text: string)
 
----Sets the callback of CodeScannerFinish, which comes when a scan has ended. It receives `code`, one of
+---Sets the callback of CodeScannerFinish, which occurs when a scan has ended. It receives `code`, one of
 ---`CODE_SCANNER_*`, and `text`, which the SDK defines; offline it is the string with which the scanner was opened, or
 ---empty after a failure.
 ---@param callback velora.OnCodeScannerFinish
@@ -1782,7 +1785,7 @@ function velora.getOnCodeScannerFinish() end
 ---@field CODE_SCANNER_PERMISSIONS_DENY 4 A permission was denied.
 ---@field CODE_SCANNER_FAIL 10 The scan has failed.
 ---@field CODE_SCANNER_PICTURE_EMPTY 11 The picture is empty.
----@field CODE_SCANNER_EXT_QRCODE_SUEESS 21 An "EXT" QR code was read. The name is spelt like this.
+---@field CODE_SCANNER_EXT_QRCODE_SUEESS 21 An "EXT" QR code was read. The name is spelt this way.
 ---@field CODE_SCANNER_CHANNEL_NOT_SUPPORT 31 The channel does not support scanning.
 
 -- # Controllers
@@ -1792,7 +1795,7 @@ function velora.getOnCodeScannerFinish() end
 
 ---@alias velora.OnControllerKeyDown fun(keyCode: integer, pad: velora.PadEvent?)
 
----Sets the callback of ControllerKeyDown, which comes when a key goes down. It receives `keyCode`, one of
+---Sets the callback of ControllerKeyDown, which occurs when a key goes down. It receives `keyCode`, one of
 ---`PAD_KEYCODE_*`, and `pad`, the event's `PadEvent`.
 ---@param callback velora.OnControllerKeyDown
 function velora.setOnControllerKeyDown(callback) end
@@ -1803,7 +1806,7 @@ function velora.getOnControllerKeyDown() end
 
 ---@alias velora.OnControllerKeyUp fun(keyCode: integer, pad: velora.PadEvent?)
 
----Sets the callback of ControllerKeyUp, which comes when a key goes up. It receives `keyCode`, one of `PAD_KEYCODE_*`,
+---Sets the callback of ControllerKeyUp, which occurs when a key goes up. It receives `keyCode`, one of `PAD_KEYCODE_*`,
 ---and `pad`, the event's `PadEvent`.
 ---@param callback velora.OnControllerKeyUp
 function velora.setOnControllerKeyUp(callback) end
@@ -1814,7 +1817,7 @@ function velora.getOnControllerKeyUp() end
 
 ---@alias velora.OnControllerKeyPressure fun(keyCode: integer, pressure: number, pad: velora.PadEvent?)
 
----Sets the callback of ControllerKeyPressure, which comes when the pressure on a key has changed. It receives
+---Sets the callback of ControllerKeyPressure, which occurs when the pressure on a key has changed. It receives
 ---`keyCode`, one of `PAD_KEYCODE_*`, `pressure` and `pad`, the event's `PadEvent`.
 ---@param callback velora.OnControllerKeyPressure
 function velora.setOnControllerKeyPressure(callback) end
@@ -1825,8 +1828,8 @@ function velora.getOnControllerKeyPressure() end
 
 ---@alias velora.OnControllerLeftStick fun(x: number, y: number, pad: velora.PadEvent?)
 
----Sets the callback of ControllerLeftStick, which comes when the left stick has moved. It receives its position `x` and
----`y` and `pad`, the event's `PadEvent`.
+---Sets the callback of ControllerLeftStick, which occurs when the left stick has moved. It receives its position `x`
+---and `y` and `pad`, the event's `PadEvent`.
 ---@param callback velora.OnControllerLeftStick
 function velora.setOnControllerLeftStick(callback) end
 
@@ -1836,7 +1839,7 @@ function velora.getOnControllerLeftStick() end
 
 ---@alias velora.OnControllerRightStick fun(x: number, y: number, pad: velora.PadEvent?)
 
----Sets the callback of ControllerRightStick, which comes when the right stick has moved. It receives its position `x`
+---Sets the callback of ControllerRightStick, which occurs when the right stick has moved. It receives its position `x`
 ---and `y` and `pad`, the event's `PadEvent`.
 ---@param callback velora.OnControllerRightStick
 function velora.setOnControllerRightStick(callback) end
@@ -1847,7 +1850,7 @@ function velora.getOnControllerRightStick() end
 
 ---@alias velora.OnControllerStateEvent fun(pad: velora.PadEvent?)
 
----Sets the callback of ControllerStateEvent, which comes when a controller connects or disconnects. It receives `pad`,
+---Sets the callback of ControllerStateEvent, which occurs when a controller connects or disconnects. It receives `pad`,
 ---the event's `PadEvent`.
 ---@param callback velora.OnControllerStateEvent
 function velora.setOnControllerStateEvent(callback) end
@@ -1861,15 +1864,15 @@ function velora.getOnControllerStateEvent() end
 ---A controller event. It comes only through callbacks, and may be kept.
 ---@class velora.PadEvent
 ---@field get_action fun(self: velora.PadEvent): integer `PAD_ACTION_*`; the SDK decides which getter has which.
----@field get_deviceId fun(self: velora.PadEvent): integer Which controller.
----@field get_eventTime fun(self: velora.PadEvent): integer When it happened, 64 bits.
+---@field get_deviceId fun(self: velora.PadEvent): integer The id of the controller.
+---@field get_eventTime fun(self: velora.PadEvent): integer The time of the event, 64 bits.
 ---@field get_keyCode fun(self: velora.PadEvent): integer One of `PAD_KEYCODE_*`.
 ---@field get_motionKeyCode fun(self: velora.PadEvent): integer The key code of a movement.
 ---@field get_pressure fun(self: velora.PadEvent): number The pressure on a key.
 ---@field get_state fun(self: velora.PadEvent): integer `PAD_ACTION_*`; the SDK decides which getter has which.
 ---@field get_stateAction fun(self: velora.PadEvent): integer `PAD_ACTION_*`; the SDK decides which getter has which.
----@field get_x fun(self: velora.PadEvent): number The x of a stick.
----@field get_y fun(self: velora.PadEvent): number The y of a stick.
+---@field get_x fun(self: velora.PadEvent): number The x position of a stick.
+---@field get_y fun(self: velora.PadEvent): number The y position of a stick.
 velora.PadEvent = {}
 
 -- ### Key codes
@@ -1928,7 +1931,7 @@ function velora.isCCRecording() end
 ---@return boolean
 function velora.isCCRecordMic() end
 
----Returns how well the device copes with recording: `CC_PERFORMANCE_NOT_SUPPORT`, `CC_PERFORMANCE_GOOD` or
+---Returns how well the device supports recording: `CC_PERFORMANCE_NOT_SUPPORT`, `CC_PERFORMANCE_GOOD` or
 ---`CC_PERFORMANCE_SOSO`.
 ---@return integer
 function velora.getCCPerformance() end
@@ -1970,7 +1973,7 @@ function velora.zvCollectEvent(event) end
 ---@param value velora.Text
 function velora.zvTrackCustomEvent(name, value) end
 
----Sends the tracked events that are still waiting. The offline runtime only records the call.
+---Sends the tracked events that have not been sent yet. The offline runtime only records the call.
 function velora.zvFlushCustomEvents() end
 
 ---Sends the player's profile. The offline runtime only records the call.
@@ -2008,7 +2011,7 @@ function velora.zvSetUserIdentifier(identifier) end
 ---@field SWRVE_RESOURCE string Key or value of an analytics report. Value and meaning are the SDK's.
 
 -- ### Collection report codes
--- Integers: how start, login and payment went.
+-- Integers: results of start, login and payment.
 
 ---@class velora
 ---@field COLLECT_SDKINIT_FAIL integer Code of a report. Value and meaning are the SDK's.
@@ -2032,7 +2035,7 @@ velora.download = {}
 ---Starts the download service. Offline, DownloadInited follows.
 function velora.download.init() end
 
----Returns what the service is doing, in a form that the SDK defines; nil if it has nothing to report. Offline,
+---Returns the state of the service, in a form that the SDK defines; nil if it has nothing to report. Offline,
 ---DownloadProgress follows with the same string.
 ---@return string?
 function velora.download.query() end
@@ -2050,7 +2053,7 @@ function velora.download.getDownloadSDKVersion() end
 ---@return string?
 function velora.download.getOrbitSessionId() end
 
----Tells the service not to send DownloadFinish2 any more.
+---Stops the service from sending DownloadFinish2.
 function velora.download.disableDownloadFinish2() end
 
 ---The three functions that the service calls directly, instead of queueing events. All three must be present.
@@ -2075,7 +2078,7 @@ function velora.download.getSyncDownloadHandler() end
 
 ---@alias velora.OnDownloadInited fun()
 
----Sets the callback of DownloadInited, which comes when the download service has started. It receives nothing.
+---Sets the callback of DownloadInited, which occurs when the download service has started. It receives nothing.
 ---@param callback velora.OnDownloadInited
 function velora.setOnDownloadInited(callback) end
 
@@ -2085,8 +2088,8 @@ function velora.getOnDownloadInited() end
 
 ---@alias velora.OnDownloadProgress fun(text: string)
 
----Sets the callback of DownloadProgress, which comes as a download advances. It receives `text`, in a form that the SDK
----defines; offline it is the command given to `extendFunc` or what `query` returned.
+---Sets the callback of DownloadProgress, which occurs while a download advances. It receives `text`, in a form that the
+---SDK defines; offline it is the command given to `extendFunc` or what `query` returned.
 ---@param callback velora.OnDownloadProgress
 function velora.setOnDownloadProgress(callback) end
 
@@ -2096,7 +2099,7 @@ function velora.getOnDownloadProgress() end
 
 ---@alias velora.OnDownloadFinish fun(text: string)
 
----Sets the callback of DownloadFinish, which comes when a download has ended. It receives `text`, in a form that the
+---Sets the callback of DownloadFinish, which occurs when a download has ended. It receives `text`, in a form that the
 ---SDK defines; offline it is the command given to `extendFunc`.
 ---@param callback velora.OnDownloadFinish
 function velora.setOnDownloadFinish(callback) end
@@ -2107,7 +2110,7 @@ function velora.getOnDownloadFinish() end
 
 ---@alias velora.OnDownloadFinishBytes fun(bytes: string?)
 
----Sets the callback of DownloadFinishBytes, which comes when a download has ended. It receives `bytes`, the data as a
+---Sets the callback of DownloadFinishBytes, which occurs when a download has ended. It receives `bytes`, the data as a
 ---string of any bytes: empty for an empty file, nil if the SDK sends no data. The offline runtime does not send this
 ---event by itself.
 ---@param callback velora.OnDownloadFinishBytes
@@ -2119,7 +2122,7 @@ function velora.getOnDownloadFinishBytes() end
 
 ---@alias velora.OnDownloadFinish2 fun(text: string, bytes: string?)
 
----Sets the callback of DownloadFinish2, which comes when a download has ended, unless `disableDownloadFinish2` was
+---Sets the callback of DownloadFinish2, which occurs when a download has ended, unless `disableDownloadFinish2` was
 ---called. It receives `text`, in a form that the SDK defines, and `bytes`, the data as a string of any bytes: empty for
 ---an empty file, nil if the SDK sends no data. (A handler's `onFinish` receives nil for both.) Offline, `text` is the
 ---command given to `extendFunc`, and there is no data.
@@ -2131,9 +2134,9 @@ function velora.setOnDownloadFinish2(callback) end
 function velora.getOnDownloadFinish2() end
 
 -- # SDK constants
--- The SDK's other names and codes, by family. The SDK defines their values and may change them: compare constants and
--- pass them on, but do not write out their values. Strings name properties (for `setPropStr`, `getPropStr`,
--- `setPropInt` and `getPropInt`) or are values of such a property; integers are codes.
+-- The other names and codes of the SDK. The SDK defines their values and may change them, so use the constants, not
+-- their values. Strings are names of properties (for `setPropStr`, `getPropStr`, `setPropInt` and `getPropInt`) or
+-- values of such a property; integers are codes.
 
 -- ## Application, channel and server identity
 -- Strings: names of properties that identify the game.
