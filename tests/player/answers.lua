@@ -1,4 +1,4 @@
--- What set answers do to events and to getters of records, and which names offline.answer knows.
+-- The effects of offline.answer on events and on getters of records, and the names that it accepts.
 local function text(...)
   local parts = table.pack(...)
   for i = 1, parts.n do parts[i] = type(parts[i]) == "table" and "#" .. #parts[i] or tostring(parts[i]) end
@@ -11,7 +11,7 @@ for setter, set in pairs(velora) do
 end
 velora.setOnLogoutDone(function(...) print("LogoutDone(" .. text(...) .. ")") player.quit() end)
 
--- A code leaves the script's own text, a text leaves the code; false is a failure.
+-- A code keeps the script's string, a string keeps the code; false is a failure.
 for _, answer in ipairs{0, 10, "found", false} do
   offline.answer("zvScannerQRCode", answer)
   velora.zvScannerQRCode("hello")
@@ -21,10 +21,10 @@ for _, answer in ipairs{0, 10, "found", false} do
   velora.zvCreateQRCode("text", 300, 200, "code.png")
 end
 
--- With false nothing comes but an account that is not there; without an answer all of it comes.
-local quiet = {zvQueryMyAccount = velora, zvOpenManager = velora, zvOpenPauseView = velora, zvCloseWebView = velora,
+-- With false, no event follows, except a nil account. Without an answer, all events follow.
+local functions = {zvQueryMyAccount = velora, zvOpenManager = velora, zvOpenPauseView = velora, zvCloseWebView = velora,
   zvCloseFlash = velora, init = velora.download}
-for name, module in pairs(quiet) do
+for name, module in pairs(functions) do
   offline.answer(name, false)
   module[name]()
   offline.answer(name, nil)
@@ -40,7 +40,7 @@ velora.download.init()
 velora.download.extendFunc("all")
 velora.zvLogout()
 
--- Getters: a number or a flag in the field's own type; anything else, and no answer, leaves the field's value.
+-- A getter returns a number or a boolean in the field's type. Any other answer, or none, keeps the field's value.
 local order, account = velora.OrderInfo.new("gold.60"), velora.AccountInfo.new()
 order:set_count(3)
 for _, row in ipairs{{"OrderInfo", order, "count"}, {"OrderInfo", order, "qrCodeOrder"},
@@ -57,7 +57,7 @@ for _, row in ipairs{{"OrderInfo", order, "count"}, {"OrderInfo", order, "qrCode
   print(field, table.concat(values, " "), get(object))
 end
 
--- With false, what returns a table returns none or an empty one.
+-- With false, a function that returns a table returns nil or an empty table.
 velora.OrderInfo.regProduct("gold.60")
 order:set_arrPriceLocaleId{"en"}
 print(velora.OrderInfo.getProductList() ~= nil, #order:get_arrPriceLocaleId())
@@ -65,10 +65,10 @@ offline.answer("OrderInfo.getProductList", false)
 offline.answer("OrderInfo.get_arrPriceLocaleId", false)
 print(velora.OrderInfo.getProductList(), #order:get_arrPriceLocaleId())
 
--- The effect of an answer comes in the frame of its event.
+-- An operation changes the state in the frame of its event, not before.
 velora.zvLogin()
-local soon = os.clock() + 0.05
-while os.clock() < soon do end
+local stop = os.clock() + 0.05
+while os.clock() < stop do end
 print("logged in", velora.hasLogin())
 
 local function fails(...) print(select(2, pcall(offline.answer, ...))) end

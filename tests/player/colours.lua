@@ -1,4 +1,4 @@
--- Played on a terminal: what tells of a mistake stands out, unless the user wants no colours.
+-- Played on a terminal: messages about mistakes are coloured unless NO_COLOR is set.
 print(player.terminal)
 velora.isBinded()
 velora.setOnExitApp(print)

@@ -1,9 +1,9 @@
--- A handler switches the service's own queued events off, those on their way included; posted ones come all the same.
+-- Setting a handler disables the service's own events, including undelivered ones, but not posted events.
 for _, name in ipairs{"DownloadInited", "DownloadProgress", "DownloadFinish", "DownloadFinish2"} do
   velora["setOn" .. name](function(...) print(name, ...) end)
 end
 
--- Some of these are queued by now and some are not, as the runtime's thread has got on.
+-- Some of these are queued when the handler is set and some are not, depending on the runtime's thread.
 for i = 1, 200 do velora.download.extendFunc("own " .. i) end
 velora.download.init()
 offline.post("DownloadProgress", "posted before")

@@ -1,4 +1,4 @@
--- At the end the callbacks are taken away, then the state is closed, and its finalisers run.
+-- At the end the callbacks are removed, then the state is closed, which runs finalizers.
 velora.setOnFinishInit(print)
 velora.setOnLoginDone(function() print("comes too late") end)
 atTheEnd = setmetatable({}, {__gc = function()
@@ -10,5 +10,5 @@ player.onFrame(function()
   velora.zvLogin()
   player.quit()
   local garbage = {}
-  for i = 1, 100000 do garbage[i] = {} end -- a collection is under way by now
+  for i = 1, 100000 do garbage[i] = {} end -- starts a collection, which lua_close interrupts
 end)

@@ -1,12 +1,12 @@
--- os.exit ends the run at once, in a callback and below pcall too, but in the order in which every run ends.
+-- os.exit ends the run at once, even in a callback and inside pcall, with the same steps as at the end of every run.
 atTheEnd = setmetatable({}, {__gc = function()
   print(velora.getOnFinishInit() == nil, velora.getOnLoginDone() == nil)
-  os.exit(4) -- the state is closing already
+  os.exit(4) -- while the state is being closed
 end})
 velora.setOnFinishInit(print)
 velora.setOnLoginDone(function(code)
   print("LoginDone", code)
-  velora.zvLogin() -- answered while the run ends
+  velora.zvLogin() -- its event is queued while the run ends
   print(pcall(coroutine.wrap(function() print(pcall(os.exit, 3)) end)))
 end)
 velora.zvLogin()

@@ -1,4 +1,4 @@
--- exitApp only says that the game is to end; the run goes on until the script quits.
+-- exitApp only causes the event ExitApp; the run continues until the script quits.
 local function show(name)
   velora["setOn" .. name](function(...) print(name, ...) end)
 end

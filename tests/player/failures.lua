@@ -1,16 +1,16 @@
--- Every failure that an operation's set answer brings: the events that come, and that nothing else has changed.
+-- Every failure that offline.answer can cause: the events that follow, and that the state has not changed.
 local function text(...)
   local parts = table.pack(...)
   for i = 1, parts.n do parts[i] = type(parts[i]) == "table" and "#" .. #parts[i] or tostring(parts[i]) end
   return table.concat(parts, ", ")
 end
 
-local function hearAll()
+local function setAllCallbacks()
   for setter, set in pairs(velora) do
     local name = setter:match("^setOn(.+)")
     if name then set(function(...) print("  " .. name .. "(" .. text(...) .. ")") end) end
   end
-  velora.setOnExtendFuncCall(print) -- its text comes back: a title for what follows
+  velora.setOnExtendFuncCall(print) -- prints the command as a title for the following lines
   velora.setOnExitApp(function()
     print(velora.isInit(), velora.hasLogin(), velora.isBinded(""), velora.zvHasNotification(),
       velora.zvHasChannelConnected(), velora.getLastShareMessage() == nil, #velora.zvGetCheckedOrders())
@@ -44,7 +44,7 @@ local rows = {
 }
 
 velora.setOnOrderCheckDone(function()
-  hearAll()
+  setAllCallbacks()
   for _, row in ipairs(rows) do
     local name, answer = row[1], row[2]
     velora.zvExtendFunc(name .. " " .. tostring(answer))
@@ -54,4 +54,4 @@ velora.setOnOrderCheckDone(function()
   end
   velora.exitApp()
 end)
-velora.zvCheckOrder(order) -- one that is paid for, to fail in consuming
+velora.zvCheckOrder(order) -- so that it can fail to be consumed

@@ -1,4 +1,4 @@
--- Field tables of posted records: each field takes what converts to its own type.
+-- Field tables of posted records: each field takes the values that convert to its type.
 local function show(value)
   if type(value) ~= "table" then return type(value) == "string" and string.format("%q", value) or tostring(value) end
   local parts = {}
@@ -15,7 +15,7 @@ local rows = {
 }
 velora.setOnOrderCheckDone(function(order)
   local name, value = table.unpack(table.remove(rows, 1))
-  print(name .. " = " .. show(value) .. " gives " .. show(order["get_" .. name](order)))
+  print(name .. " = " .. show(value) .. " stores " .. show(order["get_" .. name](order)))
   if #rows == 0 then player.quit() end
 end)
 for _, row in ipairs(rows) do offline.post("OrderCheckDone", {[row[1]] = row[2]}) end

@@ -1,3 +1,3 @@
--- Counts frames without end, and shows what a script is given.
+-- Prints the script's arguments, then the number of each frame, and never quits.
 print(#arg, arg[0], ...)
 player.onFrame(function(frame) print(frame) end)

@@ -1,5 +1,5 @@
--- Ctrl-C, while the script waits for frames or, given "stuck", where nothing but the player can end it; "twice" ends
--- the process there and then.
+-- Ctrl-C, by argument: "waiting" presses it while frames run, "stuck" before an endless loop that catches errors;
+-- "twice" presses it twice, which ends the process at once.
 local function press()
   io.popen("kill -INT $PPID"):close()
 end

@@ -1,4 +1,4 @@
--- Which callback each event number reaches, from 0 on.
+-- Prints the event whose callback is called for each number from 0 on.
 local names = {}
 for setter, set in pairs(velora) do
   local name = setter:match("^setOn(.+)")

@@ -1,12 +1,14 @@
-# Plays every Lua snippet of a page and compares what it prints, on both streams, with the text block that follows it.
-# A snippet begins with a comment that names its file. One that is reported, or whose callback raises, ends with 3. Variables: PLAYER (a list: a program and its first arguments),
-# PAGE, FOLDER (for the snippets), HOST (the file that every C++ block must be equal to).
+# Plays every Lua snippet of a page and compares its output, of both streams, with the text block that follows it. A
+# snippet begins with a comment that names its file. If its output has reports or errors of callbacks, its status is 3.
+# Variables: PLAYER (a list: a program and its first arguments), PAGE, FOLDER (for the snippets), HOST (the file that
+# every C++ block must be equal to).
 file(MAKE_DIRECTORY ${FOLDER})
 file(READ ${PAGE} page)
 file(READ ${HOST} host)
 set(snippets 0)
 
-# Moves `rest` behind the next `mark` and sets `taken` to what was before it; `found` says whether there is a mark.
+# Removes the start of `rest` up to and including the next `mark`, and sets `taken` to the part before the mark. Sets
+# `found` to whether there is a mark.
 macro(take_until mark)
   string(FIND "${rest}" "${mark}" position)
   set(found FALSE)

@@ -1,4 +1,4 @@
--- Events by number, and what offline.post says of those that it cannot make.
+-- Events by number, and the argument errors of offline.post and the other controls.
 for setter, set in pairs(velora) do
   if setter:find("^setOn") then set(function(...) print(setter, ...) end) end
 end

@@ -1,7 +1,7 @@
-# Plays one script and compares exit status and output with what is expected. Variables: PLAYER (a list: a program and
-# what goes with it), ARGUMENTS, STATUS (a number, or CMake's text for the signal that ends it), STDIN, and where they matter
-# STDOUT and STDERR, files with the expected text, and PATTERN, a regular expression for both streams. WRITTEN is a file
-# of JSON that the script writes, which is compared without its times with the file EXPECTED.
+# Plays one script and compares its exit status and output with the expected ones. Variables: PLAYER (a list: a program
+# and its first arguments), ARGUMENTS, STATUS (a number, or CMake's name of the signal that ends it). Optional: STDIN, a
+# file; STDOUT and STDERR, files with the expected output; PATTERN, a regular expression for both streams; WRITTEN, a
+# JSON file that the script writes, to be equal to EXPECTED except for its times.
 separate_arguments(ARGUMENTS UNIX_COMMAND "${ARGUMENTS}")
 set(input)
 if(STDIN)

@@ -1,13 +1,13 @@
--- Played with --strict: what is in strict.err is reported; all else is silent.
+-- Played with --strict: only the reports in strict.err are printed.
 local v, order, share = velora, velora.OrderInfo.new("gold.60"), velora.ShareInfo.new()
 
--- What the arguments look like.
+-- The format of arguments.
 v.zvUpdateRank("speed", {})
 v.setPropInt("a \"b\"\\\n\1", 5.0)
 v.setPropInt(("long"):rep(100), 0.5, 1 << 62, -1e300, true, nil, print, io.stdout, share)
 v.setPropInt(("ö"):rep(50), coroutine.create(print))
 
--- Wrappers, callbacks, class functions, methods, downloads; what never reaches the SDK as well.
+-- Wrappers, callbacks, class functions, methods, downloads; also functions that never call the SDK.
 v.isBinded()
 v.hasFeature({})
 v.zvCheckOrder("gold.60")
@@ -27,12 +27,12 @@ v.PadEvent.get_x({})
 v.ShareInfo.__tostring(order)
 v.download.extendFunc({})
 v.download.setSyncDownloadHandler("x")
-local finished = v.OrderInfo.new("gold.60")
-finished:__gc()
-finished:__gc()
-finished:get_aid()
+local finalized = v.OrderInfo.new("gold.60")
+finalized:__gc()
+finalized:__gc()
+finalized:get_aid()
 
--- Accepted, but in part: elements and values that are lost.
+-- Accepted calls that lose elements or values.
 v.zvDeleteInviters{ "anna", {}, 7, false }
 v.zvSendPushNotification("text", { print, "ben" })
 v.zvSendPushNotification({}, { print })
@@ -53,13 +53,13 @@ end
 pcall(function() velora.zvConsumeOrder(order) end)
 assert(rawget(v, "zvLogn") == nil)
 
--- What a real SDK would hardly accept.
+-- Calls that a real SDK would probably refuse.
 v.zvLogin()
 v.zvCheckOrder(velora.OrderInfo.new("rope"))
 v.OrderInfo.regProduct("gold.60")
 v.zvCheckOrder(order)
 
--- What returns nil or nothing and is no refusal, and what raises.
+-- Accepted calls that return nil or nothing, and calls that raise an error.
 offline.answer("getChannel", false)
 v.getChannel()
 v.getCmdLineParameter()
@@ -92,7 +92,7 @@ assert(not pcall(v.setCmdLineParameter, {}))
 assert(not pcall(share.set_textMsg, share, 1))
 v.isInit()
 
--- However the call comes about.
+-- Ways to call: pcall, tail calls, coroutines, metamethods, finalizers, chunks.
 pcall(v.isBinded)
 local function tail() return v.isBinded() end
 tail()
@@ -110,24 +110,24 @@ setmetatable({}, { __gc = function() v.zvLogin() v.isBinded() end })
 collectgarbage()
 load("velora.isBinded()", "=[a chunk]")()
 
--- Code without line numbers, and a name that is no good for a terminal.
+-- Code without line numbers, and a chunk name with an escape code.
 load(string.dump(load("velora.isBinded()", "@stripped.lua"), true))()
 load("velora.isBinded()", "=\27[31m")()
 
--- The hook is the script's where it wants it, and comes back afterwards.
+-- A script can set its own hook; when it is removed, the player's is restored.
 assert(debug.gethook() == nil)
 local function hook() end
 debug.sethook(hook, "c", 5)
 v.isBinded()
-local given, mask, count = debug.gethook()
-assert(given == hook and mask == "c" and count == 5)
+local current, mask, count = debug.gethook()
+assert(current == hook and mask == "c" and count == 5)
 debug.sethook()
 coroutine.wrap(function() v.isBinded() end)()
-local resting = coroutine.create(function() v.isBinded() end)
-debug.sethook(resting, hook, "", 1000)
-assert(debug.gethook(resting) == hook and debug.gethook() == nil)
-debug.sethook(resting)
-coroutine.resume(resting)
+local suspended = coroutine.create(function() v.isBinded() end)
+debug.sethook(suspended, hook, "", 1000)
+assert(debug.gethook(suspended) == hook and debug.gethook() == nil)
+debug.sethook(suspended)
+coroutine.resume(suspended)
 
 v.setOnReceiveMsgNotification(function() v.isBinded() end)
 offline.post("ReceiveMsgNotification")

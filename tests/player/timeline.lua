@@ -1,4 +1,4 @@
--- What --timeline writes of a run of one frame: calls, events with and without a callback, an error, and any bytes.
+-- The output of --timeline for one frame: calls, events with and without a callback, an error, invalid UTF-8.
 velora.setOnQuestCompleted(function()
   velora.setPropStr("ä\xff\"", "\1")
   player.quit()

@@ -1,4 +1,4 @@
--- How call lines and events show texts, containers and records, and in which order they come; run with --trace.
+-- Played with --trace: the format of strings, containers and records, and the order of calls and events.
 velora.getPropStr("quote \" back \\ line \n bell \a zero \0 end")
 velora.setPropInt("LEVEL", 5.0) -- refused: no line
 velora.setCmdLineParameter()
@@ -17,7 +17,7 @@ velora.download.setSyncDownloadHandler{ onInited = print, onProgress = print, on
 offline.download("onFinish", "done", "a\0b")
 velora.download.query()
 
--- Each event comes before the calls of its callback. A callback may end in a tail call or under the script's own hook.
+-- Each event precedes the calls of its callback, even if that ends with a tail call or sets its own hook.
 local function none() end
 velora.setOnLoginDone(function() velora.isInit() return velora.hasLogin() end)
 velora.setOnDownloadFinish2(function()

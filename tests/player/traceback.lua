@@ -1,8 +1,8 @@
--- An error goes to stderr with the way that led to it.
+-- An error is printed on stderr with a traceback.
 local function inner(text) error(text) end
 local function outer(text)
   inner(text)
   print("not reached")
 end
 player.quit()
-outer("as it must")
+outer("failed")

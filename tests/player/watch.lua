@@ -1,5 +1,5 @@
--- Played with --watch: each run changes the module that it requires, and so brings the next one about. The first ends by
--- itself, the second by the change, which the player sees, the third by os.exit, the fourth by an error in the module.
+-- Played with --watch: each run changes the module that it requires, which starts the next run. The first run ends with
+-- player.quit, the second because of the change, the third with os.exit, the fourth with an error in the module.
 local folder = ...
 local file = folder .. "/watched.lua"
 package.path = folder .. "/?.lua"

@@ -28,13 +28,13 @@ for _, item in ipairs(items) do
   if item.kind == "class" and item.name == "velora.SyncDownloadHandler" then structures[item.name] = item.fields end
 end
 
--- Returns the class table that a type names.
+-- Returns the class table of a type, or nil if it is not a class.
 local function classOf(type)
   local name = type:match("^velora%.(%w+)$")
   return name and velora[name]
 end
 
--- Returns a value of an annotated type. `object` makes one of a class, from the class's name.
+-- Returns a value of an annotated type. `object(name)` must return an object of the class.
 local function sample(type, object)
   type = (aliases[type] or type):gsub("%?$", ""):match("^[^|]+")
   if aliases[type] then return sample(aliases[type], object) end
@@ -75,7 +75,7 @@ local function fits(value, type)
   return _G.type(value) == (type:find("^fun%(") and "function" or type)
 end
 
--- Names and kinds, in both directions. Metamethods are no names for scripts.
+-- Compares names and kinds in both directions. Ignores metamethods, which scripts do not use by name.
 local function compare(path, described, live)
   for name, member in sortedPairs(described) do
     local value = live[name]
@@ -92,7 +92,7 @@ local function compare(path, described, live)
   end
 end
 
--- Returns a record as offline.post takes it: each field of the class with a value of its getter's type.
+-- Returns a record for offline.post: a table with a value of the getter's type for each field of the class.
 local function record(class)
   local fields = {}
   for name, member in pairs(globals.velora.fields[class].fields) do
@@ -102,16 +102,17 @@ local function record(class)
   return fields
 end
 
--- `received` came with a full payload, `bare` with none. A described nil must come with none, and only then.
+-- `received` are the arguments for a full payload, `bare` those for an empty one. Arguments that are described as nil
+-- must be nil in `bare`, and no others.
 local function compareReceived(name, params, received, bare)
   if received.n ~= #params or bare.n ~= #params then
     return fail("%s receives %d and %d values, not %d", name, received.n, bare.n, #params)
   end
   for i, param in ipairs(params) do
     local value = received[i]
-    if value == nil or not fits(value, param.type) then fail("%s gets %s as its %s", name, value, param.name) end
+    if value == nil or not fits(value, param.type) then fail("%s receives %s as its %s", name, value, param.name) end
     if (bare[i] == nil) ~= (param.type:sub(-1) == "?") then
-      fail("%s gets %s as its %s when the event is bare", name, bare[i], param.name)
+      fail("%s receives %s as its %s for an empty payload", name, bare[i], param.name)
     end
   end
 end
@@ -122,8 +123,7 @@ local function payload(params, make)
   return table.unpack(values)
 end
 
--- Posts each event once with all that its description names and once with nothing. `objects` keeps received objects by
--- class.
+-- Posts each event with a full payload and with an empty one. `objects` keeps received objects by class.
 local objects, events = {}, {}
 
 local function postEvents()
@@ -154,7 +154,7 @@ local function compareEvents()
 end
 
 -- Returns a new object if the class has `new`, else one that was received.
-local function fresh(class)
+local function newObject(class)
   local make = globals.velora.fields[class].fields.new
   if not make then return objects[class] end
   local values = {}
@@ -163,11 +163,11 @@ local function fresh(class)
 end
 
 local function object(class)
-  objects[class] = objects[class] or fresh(class)
+  objects[class] = objects[class] or newObject(class)
   return objects[class]
 end
 
--- What followed the calls of the reference's tables, and what should have: events with their first argument.
+-- The events that followed the calls in the reference's tables and those that should have, with their first argument.
 local pages = dofile("tools/reference_pages.lua")
 local followed, expected = {}, {}
 
@@ -177,7 +177,7 @@ local function joined(set)
   return table.concat(names, " ")
 end
 
--- A description that tells which events follow a call must name those of its row in the tables, and no others.
+-- If a description says which events follow a call, it must name those in the reference's tables, and no others.
 local function compareNamedEvents(name, member, reply)
   local named, listed = {}, {}
   if member.text:find("arrive") or member.text:find("follow") or member.text:find(" comes? ") then
@@ -193,7 +193,7 @@ end
 local function callReply(name, member, callee, reply)
   local names, answer, failure, received = table.unpack(reply, 2, 5)
   local operation = name:match("%w+$")
-  local function call() callee(payload(member.params, fresh)) end
+  local function call() callee(payload(member.params, newObject)) end
   call()
   for _, event in ipairs(names) do expected[#expected + 1] = { name, event } end
   if answer then
@@ -275,8 +275,7 @@ local function compareResults(name, returns, results)
   end
 end
 
--- Calls a function with all its arguments, with the required ones, with one less, and with an operation that has no
--- result.
+-- Calls a function with all arguments, with only the required ones, with one less, and without a result of the SDK.
 local function compareFunction(name, operation, member, callee)
   local values, required = {}, 0
   for i, param in ipairs(member.params) do
@@ -295,7 +294,7 @@ local function compareFunction(name, operation, member, callee)
   call(required)
   if #member.overloads > 0 then call(0) end
   if required > 0 and #member.overloads == 0 and select(2, try(callee, values, required - 1)) then
-    fail("%s can do without its %s", name, member.params[required].name)
+    fail("%s does not need its %s", name, member.params[required].name)
   end
   local isText = member.returns[1] and member.returns[1].type:find("^string")
   if isText then
@@ -307,9 +306,9 @@ local function compareFunction(name, operation, member, callee)
   checked[name] = true
 end
 
--- A getter must return what its setter takes; for a new object whose record fails, nil if that is described.
+-- A getter must return the type that its setter takes, and nil only if that is described and its operation fails.
 local function compareAccessors(class, members)
-  local self, new = object(class), fresh(class)
+  local self, new = object(class), newObject(class)
   for name, member in sortedPairs(members) do
     if name:find("^set_") then
       compareResults(class .. "." .. name, {}, try(self[name], { self, sample(member.params[2].type) }, 2))
@@ -329,8 +328,8 @@ local function compareAccessors(class, members)
   end
 end
 
--- Functions that do not call an SDK operation of their name.
-local ownWays = { getSyncDownloadHandler = true, ["ProductInfo.new"] = true }
+-- Functions that do not call an SDK operation of the same name.
+local ownRules = { getSyncDownloadHandler = true, ["ProductInfo.new"] = true }
 
 local function compareFunctions()
   for name, member in sortedPairs(globals.velora.fields) do
@@ -340,7 +339,7 @@ local function compareFunctions()
     if velora[name] and member.fields and name ~= "utils" then
       for inner, function_ in sortedPairs(member.fields) do
         local operation = name == "download" and inner or name .. "." .. inner:gsub("^new$", "New")
-        if not inner:find("^[gs]et_") and not ownWays[inner] and not ownWays[name .. "." .. inner] then
+        if not inner:find("^[gs]et_") and not ownRules[inner] and not ownRules[name .. "." .. inner] then
           compareFunction(name .. "." .. inner, operation, function_, velora[name][inner])
         end
       end
@@ -349,11 +348,11 @@ local function compareFunctions()
   end
 end
 
--- Every live function has been called, and every callback.
+-- Fails if a function or callback of the module has not been checked.
 local function compareChecked(path, live)
   for name, value in sortedPairs(live) do
     if type(value) == "table" then compareChecked(path .. name .. ".", value) end
-    local exempt = ownWays[name] or ownWays[path .. name] or name:find("^__")
+    local exempt = ownRules[name] or ownRules[path .. name] or name:find("^__")
     if type(value) == "function" and not checked[path .. name] and not exempt then
       fail("%s%s has not been checked", path, name)
     end
@@ -368,7 +367,7 @@ player.onFrame(function(frame)
   if frame == 1 then
     compareEvents()
     callReplies()
-  elseif frame == 30 then -- by now all events have come
+  elseif frame == 30 then -- all events have been delivered
     compareReplies()
     compareHandler()
     compareFunctions()
