@@ -1,5 +1,5 @@
--- Controller events: what each callback receives, and the PadEvent that comes with it and can be asked for more.
--- offline.post plays the controller here; a table of fields becomes the PadEvent.
+-- Controller events: the arguments of each callback, and the PadEvent, which has further fields. offline.post queues
+-- the events in place of a controller; it takes a PadEvent as a table of its fields.
 -- Play it with: velora-play examples/controller.lua
 
 local BUTTONS = { [velora.PAD_KEYCODE_BUTTON_A] = "A", [velora.PAD_KEYCODE_BUTTON_R2] = "R2" }

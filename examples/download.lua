@@ -1,26 +1,26 @@
--- A download by handler table: its three functions are called by the download service itself, not from the event queue.
--- With a handler set, the queued download events stay off.
+-- A download with a handler: the service calls its three functions directly, not through the event queue. Setting a
+-- handler disables the queued download events for good.
 -- Play it with: velora-play examples/download.lua
 
 velora.download.setSyncDownloadHandler{
   onInited = function()
     print("the download begins")
   end,
-  onProgress = function(percent) -- a text; here it counts from 0 to 100
+  onProgress = function(percent) -- a string, here from "0" to "100"
     print(percent .. " %")
   end,
-  onFinish = function(name, bytes) -- bytes is a string of any bytes, or nil where there are none
+  onFinish = function(name, bytes) -- bytes is a string of any bytes, or nil if there are none
     if bytes then
-      print(name .. " is here, " .. #bytes .. " bytes, the last is " .. bytes:byte(-1))
+      print(name .. " received, " .. #bytes .. " bytes, the last is " .. bytes:byte(-1))
     else
-      print(name .. " did not come")
+      print(name .. " was not received")
     end
   end,
 }
--- The module keeps the three functions, not the table that they came in.
+-- The module keeps the three functions, not the table.
 print("handler set: " .. tostring(velora.download.getSyncDownloadHandler() ~= nil))
 
--- Offline nothing comes over a wire: the script plays the service, a step every tenth frame.
+-- Offline nothing is downloaded: offline.download makes the service's calls, one every tenth frame.
 offline.download("onInited")
 player.onFrame(function(frame)
   if frame % 10 ~= 0 then
@@ -30,7 +30,7 @@ player.onFrame(function(frame)
   offline.download("onProgress", tostring(percent))
   if percent == 100 then
     offline.download("onFinish", "coast.map", "map\0\1\2\255")
-    velora.download.setSyncDownloadHandler() -- without an argument: off again
+    velora.download.setSyncDownloadHandler() -- removes the handler
     print("handler set: " .. tostring(velora.download.getSyncDownloadHandler() ~= nil))
     player.quit()
   end

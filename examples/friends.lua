@@ -1,7 +1,7 @@
--- Friends and ranks: a query is sent with a function, and a list of accounts comes back through its callback.
+-- Friends and ranks: a function sends a query, and a callback receives a list of accounts.
 -- A game starts the SDK and logs in first, as login.lua does. Play it with: velora-play examples/friends.lua
 
--- A rank query is a record that says which ranking, among whom, and how many places.
+-- A rank query is a record with the ranking, its scope and the number of places.
 local function askForRanks()
   local query = velora.QueryRankInfo.new()
   query:set_type(velora.QUERY_RANK_TYPE_SCORE)

@@ -1,5 +1,5 @@
--- Starting the SDK and logging in: both return at once, and a callback brings the outcome as a code. The first login
--- is refused, the second goes through.
+-- Starting the SDK and logging in: both functions return at once, and a callback receives the result as a code. The
+-- first login fails, the second succeeds.
 -- Play it with: velora-play examples/login.lua
 
 velora.setOnFinishInit(function(code)
@@ -9,7 +9,7 @@ velora.setOnFinishInit(function(code)
     return
   end
   print("The SDK has started.")
-  -- Offline every login goes through, unless the script wants another answer. This one is to be refused.
+  -- Offline every login succeeds unless offline.answer sets another result, as it does here.
   offline.answer("zvLogin", velora.LOGIN_DONE_WRONG_PASSWD)
   velora.zvLogin()
 end)
@@ -20,7 +20,7 @@ velora.setOnLoginDone(function(code)
     player.quit()
   elseif code == velora.LOGIN_DONE_WRONG_PASSWD then
     print("Wrong password, hasLogin says " .. tostring(velora.hasLogin()) .. ". Once more.")
-    offline.answer("zvLogin", nil) -- back to what logins answer by themselves
+    offline.answer("zvLogin", nil) -- restores success
     velora.zvLogin()
   else
     print("No login: code " .. code)

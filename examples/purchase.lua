@@ -1,5 +1,5 @@
--- A purchase: a product is registered and its price asked for; an order is checked, and consumed once the player has
--- the goods. A second order fails its check.
+-- A purchase: registers a product and queries its price, checks an order, and consumes it after the player has received
+-- the goods. The check of a second order fails.
 -- A game starts the SDK and logs in first, as login.lua does. Play it with: velora-play examples/purchase.lua
 
 local product = velora.ProductInfo.new()
@@ -20,7 +20,7 @@ end)
 velora.setOnOrderCheckDone(function(order)
   if order:get_orderStatus() == velora.ORDER_S_SDK_CHECK_OK then
     print("Paid: " .. order:get_orderId() .. ". The player gets " .. order:get_productName() .. ".")
-    -- Until it is consumed the order is kept, so that a game that ends here finds it again at its next start.
+    -- The SDK keeps the order until it is consumed, so that a game that ends here finds it at its next start.
     print("Orders to consume: " .. #velora.zvGetCheckedOrders() .. ".")
     velora.zvConsume(order)
   else
@@ -29,10 +29,10 @@ velora.setOnOrderCheckDone(function(order)
   end
 end)
 
-velora.setOnOrderCosumeDone(function(order) -- the event is spelt like this
-  local left = velora.zvGetCheckedOrders() or {} -- an empty list comes as nil
+velora.setOnOrderCosumeDone(function(order) -- the name is spelt this way
+  local left = velora.zvGetCheckedOrders() or {} -- nil if there are none
   print("Consumed: " .. tostring(order:get_orderStatus() == velora.ORDER_S_GS_CHECK_OK) .. ", left: " .. #left .. ".")
-  offline.answer("zvCheckOrder", velora.ORDER_S_SDK_CHECK_ERR) -- what the next check is to find
+  offline.answer("zvCheckOrder", velora.ORDER_S_SDK_CHECK_ERR) -- the next check fails
   placeOrder()
 end)
 

@@ -1,11 +1,11 @@
--- Some services in a row, each answering through a callback that goes on to the next: a QR code made, a local
--- notification sent and cancelled, a web view opened and closed.
+-- A sequence of services, each started by the callback of the one before: creates a QR code, sends and cancels a local
+-- notification, opens and closes a web view.
 -- A game starts the SDK first, as login.lua does. Play it with: velora-play examples/services.lua
 
 local LINK = "https://example.com/lighthouse"
 
 velora.setOnCreateQRCodeDone(function(path)
-  print("QR code: " .. path) -- offline the file is only named, not drawn
+  print("QR code: " .. path) -- offline no file is written
   velora.zvSendLocalNotification("The lamp is burning low.")
 end)
 
@@ -21,7 +21,7 @@ end)
 
 velora.setOnShowViewOpened(function()
   print("web view open")
-  offline.post("WebviewNativeCall", "tideTable", "{\"day\":1}") -- as a page does that calls the game
+  offline.post("WebviewNativeCall", "tideTable", "{\"day\":1}") -- simulates a page that calls the game
 end)
 
 velora.setOnWebviewNativeCall(function(name, arguments)

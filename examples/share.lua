@@ -1,5 +1,5 @@
--- Sharing a link: a ShareInfo is filled field by field, tested with zvCheckArgs and sent with zvShare. The player turns
--- the first attempt down.
+-- Sharing a link: fills a ShareInfo, tests it with zvCheckArgs and sends it with zvShare. The player declines the first
+-- time.
 -- A game starts the SDK and logs in first, as login.lua does. Play it with: velora-play examples/share.lua
 
 local share = velora.ShareInfo.new()
@@ -21,7 +21,7 @@ print("for " .. table.concat(share:get_toUserList(), " and "))
 velora.setOnShareFinished(function(shared)
   print("shared: " .. tostring(shared))
   if not shared then
-    offline.answer("zvShare", nil) -- back to success
+    offline.answer("zvShare", nil) -- restores success
     velora.zvShare(share)
     return
   end
@@ -30,7 +30,7 @@ velora.setOnShareFinished(function(shared)
 end)
 
 if velora.zvCheckArgs(share) then
-  offline.answer("zvShare", false) -- what the next share is to come to
+  offline.answer("zvShare", false) -- the next share fails
   velora.zvShare(share)
 else
   print("the request is not complete")

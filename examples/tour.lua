@@ -1,14 +1,13 @@
--- A walk through the whole module: start and log in, shop, meet friends, share, press a button, download, leave.
--- Play it with velora-play. Whatever the SDK has to think about is answered on a later frame, through a callback.
+-- A tour of the module: login, properties, a purchase, friends and ranks, sharing, a controller, a download, errors.
+-- Play it with: velora-play examples/tour.lua
 
--- Far more frames than any event takes to come.
-local PATIENCE = 600
+local MAX_FRAMES = 600 -- the number of frames to wait for an event
 
 local function say(format, ...)
   print(string.format(format, ...))
 end
 
--- What is not there reads as nil.
+-- Prints a value, nil as "(none)".
 local function show(label, value)
   say("  %-16s %s", label, value == nil and "(none)" or tostring(value))
 end
@@ -19,23 +18,23 @@ local function pause(frames)
   end
 end
 
--- Calls a function and lets frames pass until its event comes; returns what the event's callback receives.
+-- Calls a function, waits for its event, and returns the arguments of the event's callback.
 local function ask(event, operation, ...)
-  local answer
+  local received
   velora["setOn" .. event](function(...)
-    answer = table.pack(...)
+    received = table.pack(...)
   end)
   operation(...)
-  for _ = 1, PATIENCE do
-    if answer then
-      return table.unpack(answer, 1, answer.n)
+  for _ = 1, MAX_FRAMES do
+    if received then
+      return table.unpack(received, 1, received.n)
     end
     coroutine.yield()
   end
-  error("no " .. event .. " came within " .. PATIENCE .. " frames")
+  error("no " .. event .. " within " .. MAX_FRAMES .. " frames")
 end
 
--- The name of the module's constant that begins with `prefix` and has this value.
+-- Returns the name of the constant that begins with `prefix` and has this value.
 local function nameOf(prefix, value)
   for name, constant in pairs(velora) do
     if constant == value and name:sub(1, #prefix) == prefix then
@@ -46,13 +45,13 @@ local function nameOf(prefix, value)
 end
 
 local function start()
-  say("First the SDK has to start. zvInit returns at once; the outcome comes as FinishInit.")
+  say("Start the SDK. zvInit returns at once; the result arrives as the event FinishInit.")
   local code = ask("FinishInit", velora.zvInit)
   show("FinishInit", nameOf("FINISH_INIT_", code))
   assert(code == velora.FINISH_INIT_OK, "the SDK did not start")
   show("isInit", velora.isInit())
 
-  say("\nNow the login, which is answered by LoginDone in the same manner.")
+  say("\nLog in. The result arrives as LoginDone.")
   show("hasLogin", velora.hasLogin())
   code = ask("LoginDone", velora.zvLogin)
   show("LoginDone", nameOf("LOGIN_DONE_", code))
@@ -60,21 +59,21 @@ local function start()
   show("hasLogin", velora.hasLogin())
 end
 
-local function remember()
-  say("\nThe SDK keeps properties: texts and integers, by name.")
+local function setProperties()
+  say("\nThe SDK stores properties by name: strings and integers.")
   velora.setPropStr("GAME_NAME", "Tour of the Lighthouse")
   velora.setPropInt("LEVEL", 7)
   show("GAME_NAME", velora.getPropStr("GAME_NAME"))
   show("LEVEL", velora.getPropInt("LEVEL", 0))
   show("HIGH_SCORE", velora.getPropInt("HIGH_SCORE", -1))
 
-  say("\nIt keeps one command line, which can be cleared again.")
+  say("\nIt stores a command line, which can be cleared.")
   velora.setCmdLineParameter("--windowed --volume 40")
   show("command line", velora.getCmdLineParameter())
   velora.setCmdLineParameter()
   show("command line", velora.getCmdLineParameter())
 
-  say("\nAnd it knows where the game runs.")
+  say("\nIt also identifies the channel, the platform and the device.")
   show("channel", velora.getChannel())
   show("app channel", velora.getAppChannel())
   show("platform", velora.getPlatform())
@@ -82,7 +81,7 @@ local function remember()
 end
 
 local function shop()
-  say("\nThe lamp needs oil. The game tells the SDK what it sells, and asks what the store says of it.")
+  say("\nRegister products, then ask the store for their titles and prices.")
   local goods = { { "oil.60", "A can of oil", 0.99 }, { "oil.300", "A barrel of oil", 3.99 } }
   for _, row in ipairs(goods) do
     local product = velora.ProductInfo.new()
@@ -97,34 +96,35 @@ local function shop()
     show(item:get_productId(), item:get_title() .. ", " .. item:get_price() .. " " .. item:get_priceCurrencyCode())
   end
 
-  say("\nOne can, please. The SDK checks the order; the game hands out the oil and has the order consumed.")
+  say("\nBuy a can of oil. The SDK checks the order; the game gives the player the oil and consumes the order.")
   local order = ask("OrderCheckDone", velora.zvCheckOrder, velora.OrderInfo.new("oil.60"))
   show("order", order:get_orderId() .. " for " .. order:get_productName())
   show("after the check", nameOf("ORDER_S_", order:get_orderStatus()))
-  show("orders waiting", #velora.zvGetCheckedOrders())
+  show("orders left", #velora.zvGetCheckedOrders())
   order = ask("OrderCosumeDone", velora.zvConsume, order)
-  show("once consumed", nameOf("ORDER_S_", order:get_orderStatus()))
-  show("orders waiting", velora.zvGetCheckedOrders())
+  show("when consumed", nameOf("ORDER_S_", order:get_orderStatus()))
+  show("orders left", velora.zvGetCheckedOrders())
 end
 
-local function meetFriends()
-  say("\nWho else is here? A list of accounts comes back.")
+local function queryFriends()
+  say("\nQuery the friends. The result is a list of accounts.")
   for _, friend in ipairs(ask("QueryFriendListFinished", velora.zvQueryFriendList)) do
-    show(friend:get_nickname(), friend:get_inGame() and "is playing" or "is ashore")
+    show(friend:get_nickname(), friend:get_inGame() and "is playing" or "is not playing")
   end
 
-  say("\nAnd who keeps the brightest light?")
+  say("\nQuery a ranking.")
   local query = velora.QueryRankInfo.new()
   query:set_type(velora.QUERY_RANK_TYPE_SCORE)
   query:set_scope(velora.QUERY_RANK_SCOPE_ALL)
   query:set_count(3)
-  for _, keeper in ipairs(ask("QueryRankFinished", velora.zvQueryRank, query)) do
-    show("place " .. keeper:get_rank(), string.format("%s, %.0f points", keeper:get_nickname(), keeper:get_rankScore()))
+  for _, account in ipairs(ask("QueryRankFinished", velora.zvQueryRank, query)) do
+    local name, score = account:get_nickname(), account:get_rankScore()
+    show("place " .. account:get_rank(), string.format("%s, %.0f points", name, score))
   end
 end
 
 local function share()
-  say("\nThe view from the top is worth a link. Its parameters say where the visitor is to come in.")
+  say("\nShare a link with a parameter.")
   local request = velora.ShareInfo.new()
   request:set_type(velora.SHARE_TYPE_LINK)
   request:set_scope(velora.SHARE_SCOPE_CIRCLE)
@@ -136,12 +136,12 @@ local function share()
   show("ShareFinished", ask("ShareFinished", velora.zvShare, request))
   show("last message", velora.getLastShareMessage())
 
-  say("\nThe same link as a QR code. Offline nothing is drawn; the answer names the file all the same.")
+  say("\nCreate a QR code of the link. Offline no file is written, but the event has its name.")
   show("QR code", ask("CreateQRCodeDone", velora.zvCreateQRCode, request:get_link(), 200, 200, "lighthouse.png"))
 end
 
 local function pressButton()
-  say("\nThere is no controller here, but offline.post queues any event, as if the SDK had.")
+  say("\nPress a button. Without a controller, offline.post queues the event in place of the SDK.")
   local key = velora.PAD_KEYCODE_BUTTON_A
   local pressed, pad = ask("ControllerKeyDown", offline.post, "ControllerKeyDown", key, { keyCode = key, deviceId = 1 })
   show("button down", nameOf("PAD_KEYCODE_", pressed))
@@ -149,9 +149,9 @@ local function pressButton()
 end
 
 local function download()
-  say("\nA download talks to a table of three functions, without waiting for the next frame.")
-  say("Offline nothing comes over a wire: offline.download plays the service's part.")
-  -- On a terminal the progress is one line, drawn again and again.
+  say("\nDownload a file. The service calls three functions of a table, without waiting for the next frame.")
+  say("Offline nothing is downloaded; offline.download makes these calls in place of the service.")
+  -- On a terminal, each progress line overwrites the one before.
   local redraw = player.terminal and "\r%s" or "%s\n"
   velora.download.setSyncDownloadHandler{
     onInited = function() show("download", "begins") end,
@@ -160,7 +160,7 @@ local function download()
       io.write(redraw:format(line))
       io.flush()
     end,
-    onFinish = function(name, bytes) show("download", name .. " is here, " .. #(bytes or "") .. " bytes") end,
+    onFinish = function(name, bytes) show("download", name .. " received, " .. #(bytes or "") .. " bytes") end,
   }
   offline.download("onInited")
   for percent = 0, 100, 10 do
@@ -173,41 +173,42 @@ local function download()
   show("handler", velora.download.getSyncDownloadHandler())
 end
 
-local function stumble()
-  say("\nA callback with a mistake in it ends no game. Each error is logged, and the next event comes as ever:")
+local function raiseErrors()
+  say("\nAn error in a callback does not end the game. It is logged, and the next event is delivered:")
   velora.setOnReceiveMsgNotification(function()
-    error("this callback has a bad day")
+    error("error in this callback")
   end)
-  offline.log() -- what came before is of no interest
+  offline.log() -- drops the earlier lines
   offline.post("ReceiveMsgNotification")
   offline.post("ReceiveMsgNotification")
   pause(1)
-  for _, line in ipairs(offline.log()) do -- the lines go to stderr as well
+  for _, line in ipairs(offline.log()) do -- the lines are written to stderr as well
     show("in the log", line)
   end
 end
 
-local function leave()
-  say("\nTime to leave.")
+local function logOut()
+  say("\nLog out.")
   local code = ask("LogoutDone", velora.zvLogout)
   show("LogoutDone", nameOf("LOGOUT_DONE_", code))
   assert(code == velora.LOGOUT_DONE_OK, "the logout failed")
   show("hasLogin", velora.hasLogin())
 end
 
--- The tour is a coroutine, resumed once per frame: `ask` and `pause` hand the frame back.
-local story = coroutine.create(function()
-  say("Good day. This is the tour of the module, played offline: no account, no network.\n")
-  for _, chapter in ipairs{ start, remember, shop, meetFriends, share, pressButton, download, stumble, leave } do
+-- The tour is a coroutine that is resumed once per frame, so that `ask` and `pause` can wait.
+local tour = coroutine.create(function()
+  say("A tour of the module, played offline, without an account and without a network.\n")
+  local chapters = { start, setProperties, shop, queryFriends, share, pressButton, download, raiseErrors, logOut }
+  for _, chapter in ipairs(chapters) do
     chapter()
   end
-  say("\nThat was the tour. Goodbye.")
+  say("\nThe tour has ended.")
   player.quit(0)
 end)
 
 player.onFrame(function()
-  local ok, message = coroutine.resume(story)
+  local ok, message = coroutine.resume(tour)
   if not ok then
-    error(debug.traceback(story, message), 0)
+    error(debug.traceback(tour, message), 0)
   end
 end)

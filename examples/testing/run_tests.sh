@@ -1,6 +1,6 @@
 #!/bin/sh
 # Plays every test. Usage: run_tests.sh [PLAYER]
-# Fails if a test fails, if a callback raises an error, or if --strict has something to report.
+# Fails if a test fails, a callback raises an error, or --strict reports anything.
 cd "$(dirname "$0")" || exit 1
 player=${1:-velora-play}
 status=0

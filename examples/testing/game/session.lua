@@ -1,7 +1,7 @@
--- Starts the SDK and logs the player in. The game draws session.state, and session.reason if there is one.
+-- Starts the SDK and logs the player in. The game displays session.state and, if not nil, session.reason.
 local session = { state = "off", reason = nil }
 
-local PATIENCE = 120 -- frames to wait for a result
+local TIMEOUT = 120 -- frames to wait for a result
 
 local reasons = {
   [velora.LOGIN_DONE_WRONG_PASSWD] = "wrong password",
@@ -9,19 +9,19 @@ local reasons = {
   [velora.LOGIN_DONE_NET_TIME_OUT] = "no reply from the network",
 }
 
-local waiting -- for how many frames more; nil if no result is due
+local waiting -- the number of frames left to wait; nil if no result is due
 
-local function enter(state, reason, patience)
-  session.state, session.reason, waiting = state, reason, patience
+local function enter(state, reason, timeout)
+  session.state, session.reason, waiting = state, reason, timeout
 end
 
 function session.logIn()
-  enter("logging in", nil, PATIENCE)
+  enter("logging in", nil, TIMEOUT)
   velora.zvLogin()
 end
 
 function session.start()
-  enter("starting", nil, PATIENCE)
+  enter("starting", nil, TIMEOUT)
   velora.zvInit()
 end
 

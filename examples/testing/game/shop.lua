@@ -1,4 +1,4 @@
--- Sells products. What the player has paid for is given once, whatever happens in between.
+-- Sells products. Gives the player each paid product exactly once, even if its order is delivered again.
 local shop = { prices = {}, message = nil }
 
 local PRODUCTS = { "lamp", "oil" }

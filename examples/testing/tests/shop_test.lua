@@ -1,7 +1,7 @@
 local testing = require("tests.testing")
 local case, equal = testing.case, testing.equal
 
--- Opens a shop that keeps what it gives in `goods`.
+-- Opens a shop that stores the goods that it gives in `goods`.
 local function open()
   local shop, goods = testing.load("game.shop"), {}
   function shop.give(productId) goods[#goods + 1] = productId end

@@ -21,10 +21,10 @@ function testing.waitUntil(condition)
     if condition() then return end
     coroutine.yield()
   end
-  error("waited in vain", 2)
+  error("timed out", 2)
 end
 
--- Waits until all results of the calls so far have come: they come in the order of the calls.
+-- Waits until the results of all calls so far have arrived. They arrive in the order of the calls.
 function testing.settle()
   local settled = false
   velora.setOnExtendFuncCall(function() settled = true end)
@@ -45,7 +45,7 @@ function testing.replace(name, replacement)
   undo[#undo + 1] = function() rawset(velora, name, original) end
 end
 
--- Loads a module of the game as if the game had just started.
+-- Loads a module of the game again, as if the game had just started.
 function testing.load(module)
   package.loaded[module] = nil
   return require(module)
