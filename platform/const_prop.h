@@ -1,4 +1,4 @@
-// The SDK's named constants. Their values are the SDK's own; they are constructed when its library is loaded.
+// The SDK's named constants. The SDK's library defines their values; they are initialized when it is loaded.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
-// The SDK's download service. Everything here is called on the thread of Lua; what it throws derives from
-// std::exception.
+// The SDK's download service. All functions, also those of handlers, are called on the thread of Lua. The service's
+// exceptions derive from std::exception.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +9,8 @@
 
 namespace tarn::velora::download {
 
-// Notified at once, unlike the queued events, which arrive a frame later. Exactly three virtual slots.
-// Strings and bytes are valid during the call only; either may be null.
+// Notified at once, unlike the queued events, which arrive a frame later. Has exactly three virtual slots. Strings and
+// bytes are valid only during the call and may be null.
 class VELORA_SDK_TYPE SyncDownloadHandler {
  public:
   SyncDownloadHandler() = default;
@@ -25,19 +25,20 @@ class VELORA_SDK_TYPE SyncDownloadHandler {
   ~SyncDownloadHandler() = default;
 };
 
-// Starts the service, which then queues its first event.
+// Starts the service, which then queues DownloadInited.
 VELORA_SDK_API void init();
 // Passes a free-form command to the service, which replies by events.
 VELORA_SDK_API void extendFunc(const std::string& text);
-// No DownloadFinish2 is queued from now on.
+// Stops queueing DownloadFinish2.
 VELORA_SDK_API void disableDownloadFinish2();
 
-// Each fills `out` and returns whether there is a string.
+// Fill `out` and return true, or return false if there is no string.
 VELORA_SDK_API bool query(std::string& out);
 VELORA_SDK_API bool getDownloadSDKVersion(std::string& out);
 VELORA_SDK_API bool getOrbitSessionId(std::string& out);
 
-// The handler is not owned; it must be removed before it dies, unless the SDK makes no more calls.
+// The service does not own the handler. It must be removed before it is destroyed, unless the service makes no more
+// calls.
 VELORA_SDK_API void addSyncDownloadHandler(SyncDownloadHandler* handler);
 VELORA_SDK_API void removeSyncDownloadHandler(SyncDownloadHandler* handler);
 

@@ -1,7 +1,7 @@
-// The events that the SDK queues, exactly as its 64-bit build lays them out: the header (a virtual table pointer,
-// the type at byte 8), then one of 17 payloads from byte 16 on. The module reads fields only and calls no virtual
-// operation. Reserved and alignas fields give the same layout on every compiler. kPayload lists a layout's fields in
-// the order in which a callback receives them.
+// The events that the SDK queues, in the layout of its 64-bit build: the header (a virtual-table pointer, the type at
+// byte 8), then one of 17 payloads from byte 16 on. Reserved fields and alignas make the layout the same for every
+// compiler. The module only reads fields and calls no virtual operation. kPayload lists the fields of a layout in the
+// order in which a callback receives them.
 #pragma once
 
 #include <cstddef>
@@ -30,7 +30,7 @@ class VELORA_SDK_TYPE Event {
   std::int32_t reserved = 0;
 };
 
-// The data of the download-finish events. The event owns it; whoever reads it frees nothing.
+// The data of the download-finish events, which own it.
 struct ByteBlock {
   const unsigned char* data;
   std::uint64_t size;
@@ -168,7 +168,7 @@ inline constexpr std::tuple kPayload<TextBytesEvent>{&TextBytesEvent::text, &Tex
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Winvalid-offsetof"
 #endif
-static_assert(sizeof(void*) == 8, "the contract is that of 64-bit builds");
+static_assert(sizeof(void*) == 8, "the layout is that of 64-bit builds");
 static_assert(sizeof(std::string) == 32 && sizeof(StringList) == 24 && sizeof(std::shared_ptr<OrderInfo>) == 16);
 static_assert(offsetof(ByteBlock, data) == 0 && offsetof(ByteBlock, size) == 8 && sizeof(ByteBlock) == 16);
 static_assert(offsetof(Event, type) == 8 && sizeof(Event) == 16);
@@ -196,8 +196,8 @@ static_assert(sizeof(PlainEvent) == 16 && sizeof(CodeEvent) == 24 && sizeof(Flag
 #pragma GCC diagnostic pop
 #endif
 
-// Moves every queued event, in queue order, into `events`, which is empty on entry: each is handed over once.
-// Called on the thread of Lua; the SDK's threads may queue at the same time.
+// Moves all queued events, in queue order, to `events`, which must be empty. Called on the thread of Lua; other threads
+// of the SDK may queue events at the same time.
 VELORA_SDK_API void SwapEvents(std::vector<std::shared_ptr<Event>>& events);
 
 }  // namespace tarn::velora

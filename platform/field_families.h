@@ -1,4 +1,4 @@
-// The type of a field of each accessor family, by the names that the record rows use.
+// The field type of each accessor family, under the names used in the record rows.
 #pragma once
 
 #include <cstdint>
@@ -22,9 +22,9 @@ using StrictList = StringList;  // every element must be a string or a number
 using CachedList = StringList;
 using CachedMap = velora::StringMap;
 using CachedIntMap = velora::IntMap;
-using RecordMap = velora::StringMap;  // its getter reports whether there is a map
+using RecordMap = velora::StringMap;  // its getter returns whether there is a map
 
-// How a setter takes a value of that type.
+// The parameter type of the setter of a field.
 template <class Value>
 using Parameter = std::conditional_t<std::is_arithmetic_v<Value>, Value, const Value&>;
 

@@ -1,5 +1,5 @@
-// How the closed platform libraries' names are imported, and how the offline runtime, which
-// replaces them, exports the same names.
+// Macros that import the names of the closed platform libraries and, in the offline runtime, which replaces them,
+// export the same names.
 #pragma once
 
 #if defined(_WIN32)
@@ -7,7 +7,8 @@
 #define VELORA_SDK_API __declspec(dllexport)
 #define VELORA_SDK_DATA __declspec(dllexport)
 #else
-// Functions need no mark: the import library's thunk serves, and its address is a constant.
+// Functions are called through the import library's thunks, whose addresses, unlike those of dllimport functions, are
+// constants.
 #define VELORA_SDK_API
 #define VELORA_SDK_DATA __declspec(dllimport)
 #endif

@@ -1,4 +1,4 @@
-// The log library: named channels, printf-style lines. Any thread may call it; what it throws derives from
+// The log library, with named channels and printf formats. May be called from any thread. Its exceptions derive from
 // std::exception.
 #pragma once
 
@@ -14,7 +14,7 @@
 
 namespace tarn::log {
 
-// Gives the id under which lines for the channel of that name are logged; the same name may be registered again.
+// Returns the id of the channel of that name. A name may be registered more than once.
 VELORA_SDK_API std::uint32_t RegisterChannel(const char* name);
 
 // Writes one line at `level` (the module only uses 0).

@@ -1,7 +1,6 @@
-// The SDK's operations. All are called on the thread of Lua and return at once; what takes longer is answered by an
-// event. References and pointers are valid during the call only; a shared reference may be copied and kept.
-// An operation that fills `out` returns whether there is a string. What an operation throws derives from
-// std::exception.
+// The SDK's operations. All are called on the thread of Lua and return at once; results that take longer arrive as
+// events. Reference and pointer arguments are valid only during the call; a shared reference may be copied and kept. An
+// operation that fills a string `out` returns whether there is one. Exceptions derive from std::exception.
 #pragma once
 
 #include <cstddef>
@@ -19,7 +18,7 @@ class OrderInfo;
 class QueryRankInfo;
 class ShareInfo;
 
-// The id of the module's log channel; the module writes it at its start and reads it at each log call.
+// The id of the module's log channel. InitLuaVelora sets it; each log call of the module reads it.
 extern VELORA_SDK_DATA std::uint32_t LogChannel;
 
 // Start-up, login and account.
@@ -63,7 +62,7 @@ VELORA_SDK_API bool isBinded(const std::string& text);
 VELORA_SDK_API bool zvHasPlatform(const std::string& text);
 VELORA_SDK_API bool hasFeature(const std::string& feature);
 
-// Free-form commands and options. The form of an option's value follows from its name.
+// Free-form commands and options. The type of an option's value follows from its name.
 VELORA_SDK_API void zvExtendFunc(const std::string& text);
 VELORA_SDK_API void zvvGenericFunctionCall(const std::string& text);
 VELORA_SDK_API void zvCallbackSuccess(const std::string& text);

@@ -1,5 +1,5 @@
-// The SDK's payment order. The operations are in virtual-table order; the first is never called. A record is
-// destroyed by its shared reference's own deleter; its operations may be called from any thread that holds one.
+// The SDK's payment order. The operations are in virtual-table order; the module never calls the first. A record is
+// destroyed by the deleter of its shared reference. Any thread that holds a reference may call its operations.
 #pragma once
 
 #include <cstdint>
@@ -14,10 +14,10 @@ namespace tarn::velora {
 
 class VELORA_SDK_TYPE OrderInfo {
  public:
-  // `New` returns a reference to a new record, or an empty one if the SDK does not support the class.
+  // Returns a reference to a new record, or an empty one if the SDK does not support the class.
   static VELORA_SDK_API std::shared_ptr<OrderInfo> New(const std::string& productId);
 
-  // The product registry: fills `out` with copies of the registered products by id; tests, registers and types one.
+  // The product registry. getProductList fills `out` with copies of the registered products, by id.
   static VELORA_SDK_API void getProductList(std::unordered_map<std::string, ProductInfo>& out);
   static VELORA_SDK_API bool hasProduct(const std::string& productId);
   static VELORA_SDK_API bool hasProduct(const std::shared_ptr<OrderInfo>& order);
@@ -29,7 +29,7 @@ class VELORA_SDK_TYPE OrderInfo {
   static VELORA_SDK_API std::int32_t getProductType(const std::string& productId);
   static VELORA_SDK_API void setProductType(const std::string& productId, std::int32_t type);
 
-  // Fills `out` with the order as JSON and reports success.
+  // Fills `out` with the order as JSON and returns true, or returns false if it has no such form.
   static VELORA_SDK_API bool obj2Json(const std::shared_ptr<OrderInfo>& order, std::string& out);
 
   virtual void reserved() {}

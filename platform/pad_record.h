@@ -1,5 +1,5 @@
-// The SDK's controller record. The operations are in virtual-table order; the first is never called. A record is
-// destroyed by its shared reference's own deleter; its operations may be called from any thread that holds one.
+// The SDK's controller record. The operations are in virtual-table order; the module never calls the first. A record is
+// destroyed by the deleter of its shared reference. Any thread that holds a reference may call its operations.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,5 @@
-// The SDK's store product: a plain value that crosses the boundary by value and by reference, so its layout counts.
+// The SDK's store product, a plain value. Its layout must be that of the SDK, which takes and returns it by value and
+// by reference.
 #pragma once
 
 #include <cstddef>
@@ -33,7 +34,7 @@ static_assert(offsetof(ProductInfo, productName) == 32 && offsetof(ProductInfo, 
 static_assert(sizeof(StringMap) == 64 && sizeof(IntMap) == 64);
 #endif
 
-// Fills `out` with a string form of `product` and returns true on success.
+// Fills `out` with a string form of `product` and returns true, or returns false if there is none.
 VELORA_SDK_API bool toString(const ProductInfo& product, std::string& out);
 
 }  // namespace tarn::velora

@@ -11,7 +11,7 @@
 
 namespace tarn::velora {
 
-// kName is the name of the class table, kMetatable that of its userdata's metatable.
+// kName is the name of the class table, kMetatable that of the metatable of its objects.
 template <class Record>
 struct ClassNames;
 

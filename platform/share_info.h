@@ -1,5 +1,5 @@
-// The SDK's share request. The operations are in virtual-table order; the first is never called. A record is
-// destroyed by its shared reference's own deleter; its operations may be called from any thread that holds one.
+// The SDK's share request. The operations are in virtual-table order; the module never calls the first. A record is
+// destroyed by the deleter of its shared reference. Any thread that holds a reference may call its operations.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@ namespace tarn::velora {
 
 class VELORA_SDK_TYPE ShareInfo {
  public:
-  // `New` returns a reference to a new record, or an empty one if the SDK does not support the class.
+  // Returns a reference to a new record, or an empty one if the SDK does not support the class.
   static VELORA_SDK_API std::shared_ptr<ShareInfo> New();
   static VELORA_SDK_API std::shared_ptr<ShareInfo> New(const std::string& text);
 
