@@ -1,4 +1,4 @@
-# GoogleTest from the sources that Debian ships, for systems that it ships no library for.
+# Builds GoogleTest from Debian's source package, for target systems for which Debian has no library.
 find_path(VELORA_GOOGLETEST googletest/CMakeLists.txt PATHS /usr/src PATH_SUFFIXES googletest REQUIRED
           NO_CMAKE_FIND_ROOT_PATH)
 set(BUILD_GMOCK OFF)

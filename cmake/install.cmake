@@ -1,6 +1,6 @@
-# What `cmake --install` lays out and CPack packs, the same on every system:
+# The files of `cmake --install` and of the package, on every system:
 #   bin/                  velora-play; on Windows every DLL too
-#   lib/                  the libraries to load (Linux) or to link with (Windows), and the CMake package and
+#   lib/                  the shared libraries (Linux) or the import libraries (Windows), the CMake package and the
 #                         pkg-config file
 #   include/LuaVelora/    module/lua_velora.h, platform/
 #   include/lua5.3/       Lua's headers, on Windows
@@ -57,7 +57,7 @@ install(FILES README.md CHANGELOG.md DESTINATION share/LuaVelora)
 # The documents as web pages, if `make site` has written them.
 install(DIRECTORY build/site DESTINATION share/LuaVelora OPTIONAL)
 if(MINGW)
-  # The terms of the libraries of others among the DLLs, where the system has them.
+  # The licences of third-party DLLs, if they are installed.
   foreach(origin gcc-mingw-w64-base mingw-w64-common liblua5.3-dev)
     install(FILES /usr/share/doc/${origin}/copyright DESTINATION share/LuaVelora/licences RENAME ${origin}.txt OPTIONAL)
   endforeach()

@@ -49,8 +49,8 @@ endif()
 target_include_directories(velora_lua SYSTEM INTERFACE $<BUILD_INTERFACE:${source}/src>)
 list(TRANSFORM VELORA_LUA_HEADERS PREPEND ${source}/src/)
 
-# The same sources as C++, for the tests. Without LUA_BUILD_AS_DLL Debian's header gives the functions C names; exporting
-# everything makes up for its marks.
+# The same sources as C++, for the tests. Without LUA_BUILD_AS_DLL, Debian's header declares the functions extern "C"
+# and without dllexport, so all symbols are exported.
 add_library(velora_lua_cxx SHARED EXCLUDE_FROM_ALL ${sources})
 set_target_properties(velora_lua_cxx PROPERTIES PREFIX "" OUTPUT_NAME ${VELORA_LUA_DLL}-c++ LINKER_LANGUAGE CXX
                                                 WINDOWS_EXPORT_ALL_SYMBOLS ON)

@@ -1,4 +1,4 @@
-# Toolchain: 64-bit Windows with MinGW-w64. The posix variant of the compiler, since the other lacks std::thread.
+# Toolchain: 64-bit Windows with MinGW-w64, in its posix variant, since the win32 variant lacks std::thread.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
@@ -13,5 +13,5 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# What runs the programs that are built: the tests, and the test runner's look at what tests there are.
+# Runs the tests, and lists them for the test runner.
 set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../tools/wine_run)

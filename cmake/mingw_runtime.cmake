@@ -1,5 +1,5 @@
-# How MinGW-w64 links here: the standard library is shared, since module and SDK pass its objects to each other and
-# throw across; its DLLs go beside the programs. An engine has its own way to put them there.
+# Link options for MinGW-w64. The standard library is shared, since module and SDK exchange its objects and exceptions.
+# Its DLLs are copied to the folder of the programs, unless an engine's build does that.
 if(PROJECT_IS_TOP_LEVEL)
   file(MAKE_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
   foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
@@ -10,12 +10,12 @@ if(PROJECT_IS_TOP_LEVEL)
   endforeach()
 endif()
 
-# The same sources give the same files.
+# Makes builds reproducible.
 add_link_options(-Wl,--no-insert-timestamp)
 
-# Fails the build where the target's objects use the SDK's data without __declspec(dllimport), which else shows at run
-# time only, far from its cause. Linked aside with the standard library inside, since the type information of that
-# library, used from its DLL, counts as such data too.
+# Makes the build fail if the target's objects use the SDK's data without __declspec(dllimport), which would otherwise
+# fail only at run time. Links a separate library with the static standard library, since using type information from the
+# standard library's DLL would fail, too.
 function(check_data_imports target)
   add_library(${target}_data_imports SHARED $<TARGET_OBJECTS:${target}>)
   target_link_libraries(${target}_data_imports PRIVATE ${ARGN})

@@ -1,5 +1,5 @@
-# The warnings that the project builds without. They are errors, but not in an engine's build, whose compiler and flags may
-# cause others.
+# The warnings of the project's code. They are errors, except in an engine's build, whose compiler and flags may cause
+# others.
 add_library(velora_warnings INTERFACE)
 set(as_errors $<$<BOOL:${PROJECT_IS_TOP_LEVEL}>:$<IF:$<BOOL:${MSVC}>,/WX,-Werror>>)
 if(MSVC)

@@ -1,5 +1,5 @@
-# Toolchain: 64-bit Windows with Visual C++'s ABI and Microsoft's standard library, by Clang. VELORA_SYSROOT is the folder
-# that make_sysroot made.
+# Toolchain: Clang for 64-bit Windows with Visual C++'s ABI and Microsoft's standard library. VELORA_SYSROOT is the
+# folder created by make_sysroot.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR AMD64)
 set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES VELORA_SYSROOT)
@@ -24,7 +24,7 @@ endforeach()
 set(CMAKE_C_STANDARD_LIBRARIES kernel32.lib CACHE STRING "")
 set(CMAKE_CXX_STANDARD_LIBRARIES kernel32.lib CACHE STRING "")
 
-# No dependency on system headers is recorded. This makes a new sysroot rebuild everything.
+# Dependencies on system headers are not recorded. The key rebuilds everything if the sysroot changes.
 file(READ ${VELORA_SYSROOT}/key key)
 add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:/DVELORA_SYSROOT_KEY=${key}>)
 

@@ -1,4 +1,4 @@
-// Wine's header plus what GoogleTest uses.
+// Wine's header, with the additional declarations that GoogleTest uses.
 #pragma once
 #include_next <crtdbg.h>
 #define _CRTDBG_MODE_FILE 0x1

@@ -1,4 +1,4 @@
-// A private header of the runtime. Has what the standard library's sources use of it.
+// The part of a private header of the runtime that the standard library's sources use.
 #pragma once
 #include <malloc.h>
 #include <stdlib.h>

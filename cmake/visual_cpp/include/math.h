@@ -1,5 +1,5 @@
-// Wine's header plus what Visual C++'s has for C++: the functions for long double, which has the format of double, and
-// the classification functions, which are macros in Wine's header.
+// Wine's header, with the additions of Visual C++'s for C++: the functions for long double, which has the format of
+// double, and the classification functions, which are macros in Wine's header.
 #pragma once
 #include_next <math.h>
 

@@ -1,4 +1,4 @@
-// Wine's header plus what Visual C++'s has in addition.
+// Wine's header, with the additional declarations of Visual C++'s.
 #pragma once
 #include_next <stdlib.h>
 

@@ -1,4 +1,4 @@
-// What the standard library uses of the compiler's own runtime header. Written from the documented interface.
+// The part of the compiler's runtime header that the standard library uses. Written from the documented interface.
 #pragma once
 #include <corecrt.h>
 #include <sal.h>

@@ -1,4 +1,4 @@
-// Wine's header with Visual C++'s mbstate_t, plus what Visual C++'s has in addition.
+// Wine's header, with Visual C++'s mbstate_t and additional declarations.
 #pragma once
 #include <corecrt.h>
 #include <errno.h>

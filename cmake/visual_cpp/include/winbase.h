@@ -1,4 +1,4 @@
-// Wine's header plus what the standard library's file system functions use.
+// Wine's header, with the additional declarations that the standard library's file system functions use.
 #pragma once
 #include_next <winbase.h>
 

@@ -1,4 +1,4 @@
-// The allocation functions, in an object of their own so that a program can replace them.
+// The allocation functions, in a separate object so that a program can replace them.
 #include <malloc.h>
 
 #include <new>

@@ -1,6 +1,5 @@
-// The code that Visual C++ links into every program and library: initialisers, functions to run at the end, static
-// variables inside functions, thread-local storage. Written from the documented behaviour, as far as the build needs
-// it.
+// The code that Visual C++ links into every program and library: initializers, exit functions, static variables in
+// functions, thread-local storage. Implements the documented behaviour as far as the build needs it.
 #include <corecrt_startup.h>
 #include <windows.h>
 
@@ -25,7 +24,7 @@ void __cdecl __security_check_cookie(uintptr_t cookie) {
   if (cookie != __security_cookie) __builtin_trap();
 }
 
-// Initialisers: the compiler puts pointers to them into sections that the linker sorts by name, between these.
+// Initializers. The compiler puts pointers to them into sections that the linker sorts by name, between these sections.
 #pragma section(".CRT$XIA", read)
 #pragma section(".CRT$XIZ", read)
 #pragma section(".CRT$XCA", read)
@@ -57,8 +56,8 @@ const IMAGE_TLS_DIRECTORY64 _tls_used = {reinterpret_cast<ULONGLONG>(&_tls_start
                                          0,
                                          0};
 
-// Guards of static variables inside functions: 0 is not initialised, -1 is being initialised, anything else is the
-// epoch of the initialisation.
+// Guards of static variables in functions: 0 is uninitialized, -1 is being initialized, any other value is the epoch of
+// the initialization.
 int _Init_global_epoch = INT_MIN;
 __declspec(thread) int _Init_thread_epoch = INT_MIN;
 static SRWLOCK init_lock;
@@ -86,7 +85,7 @@ static void FinishInit(int* guard, bool completed) {
 void __cdecl _Init_thread_footer(int* guard) { FinishInit(guard, true); }
 void __cdecl _Init_thread_abort(int* guard) { FinishInit(guard, false); }
 
-// Each program or library runs the functions that it registered, at its own end.
+// Each program or library runs its own exit functions, when it ends or is unloaded.
 static _onexit_table_t at_exit;
 _onexit_t __cdecl _onexit(_onexit_t function) {
   return _register_onexit_function(&at_exit, function) == 0 ? function : nullptr;

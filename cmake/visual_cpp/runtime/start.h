@@ -1,7 +1,7 @@
-// What the entry points of programs and libraries share.
+// The common part of the entry points of programs and libraries.
 #pragma once
 
 extern "C" {
-bool StartModule();        // runs the initialisers of this program or library
-void __cdecl EndModule();  // runs what was registered with atexit
+bool StartModule();        // runs the initializers of this program or library
+void __cdecl EndModule();  // runs the functions registered with atexit
 }
