@@ -1,5 +1,5 @@
-"""Hooks of MkDocs. The site has the documents under their paths in the repository, so that their links hold, and a page
-for each file of the examples."""
+"""Hooks of MkDocs. The documents have the same paths in the site as in the repository, so that their links are valid.
+Each file of the examples has a page."""
 import json
 import re
 from pathlib import Path
@@ -11,11 +11,11 @@ from mkdocs.structure.files import File, Files
 ROOT = Path(__file__).parents[2]
 LANGUAGES = {".lua": "lua", ".c": "c", ".cpp": "cpp", ".txt": "cmake", ".sh": "bash", ".yml": "yaml"}
 
-names = []  # entries of the search
+names = []  # additional entries of the search index
 
 
 class Source(File):
-    """A source file as a page, which keeps the file's whole name: host.c.html."""
+    """A source file as a page, named after the whole file name: host.c.html."""
 
     def is_documentation_page(self):
         return True
@@ -25,7 +25,7 @@ class Source(File):
 
 
 class NestedLists(Extension):
-    """Makes two spaces one level of a list, as in the documents. Comes first, as it replaces the parser of blocks."""
+    """Makes two spaces one level of a list, as in the documents. Must be first, since it replaces the block parser."""
 
     def extendMarkdown(self, md):
         usual, md.tab_length = md.tab_length, 2
@@ -38,7 +38,7 @@ def on_config(config):
 
 
 def on_files(files, config):
-    """Replaces the files that MkDocs has found; keeps the theme's, except source maps and other languages' stemmers."""
+    """Replaces the files found by MkDocs. Keeps those of the theme, except source maps and stemmers."""
     kept = [f for f in files if f.src_uri.startswith("assets/") and not re.search(r"\.map$|/lunr/", f.src_uri)]
 
     def file(path, kind=File):
@@ -57,7 +57,7 @@ def on_files(files, config):
 
 
 def listing(folder):
-    """A page for a folder of sources, with the first sentence of each."""
+    """Returns a page that lists a folder of sources, with the first sentence of each."""
     lines = [f"# {folder.relative_to(ROOT).as_posix()}", ""]
     for path in sorted(folder.iterdir()):
         if path.is_dir():
@@ -88,7 +88,7 @@ def on_page_read_source(page, config):
 
 
 def on_page_content(html, page, config, files):
-    """Makes each constant, field and function in the tables of the reference a place, and an entry of the search."""
+    """Adds an anchor and a search entry for each constant, field and function in the tables of the reference."""
     if not page.file.src_uri.startswith("docs/reference/"):
         return html
     section, accessors = "", False
@@ -113,7 +113,7 @@ def on_page_content(html, page, config, files):
 
 
 def on_post_page(output, page, config):
-    """Lets the names in tables and in the lists of contents break between their words."""
+    """Allows line breaks between the words of names, in tables and in tables of contents."""
     def mark(text):
         return re.sub(r"(?<=[a-z])(?=[A-Z])|(?<=\w_)(?=\w)|(?<=\()(?=\S)", "<wbr>", text[0])
 
@@ -128,10 +128,10 @@ def on_post_build(config):
     index["docs"] += names
     for entry in index["docs"]:
         if entry["location"].startswith("examples/"):
-            entry["text"] = ""  # or uses of a name would come before its description
-    # As a script: pages opened from a folder may load that, but no data.
+            entry["text"] = ""  # otherwise uses of a name would rank before its description
+    # As a script, because pages opened from a folder can load scripts but no data.
     (site / "search/search_index.js").write_text(f"receiveSearchIndex({json.dumps(index)});\n")
-    # For servers only.
+    # Only servers need these.
     for unused in (index_file, site / "404.html", site / "sitemap.xml", site / "sitemap.xml.gz"):
         unused.unlink()
     terms = Path("/usr/share/doc/mkdocs-material/copyright")

@@ -1,5 +1,5 @@
-// Lets the theme's search work in pages that were opened from a folder, from which a browser neither starts a worker
-// nor loads data. The index is loaded when the reader opens the search.
+// Makes the theme's search work in pages opened from a folder, where a browser neither starts workers nor loads data.
+// The index is loaded when the search is opened.
 const searchIndex = new Promise((resolve) => {
   window.receiveSearchIndex = resolve;
   const script = document.createElement("script");
@@ -9,14 +9,14 @@ const searchIndex = new Promise((resolve) => {
 
 window.__search = {
   index: searchIndex,
-  // Finds names by any part of them, first those that begin with what was typed. The theme appends a `*`.
+  // Finds names by any part, and ranks those first that begin with the query. The theme appends a `*`.
   transform: (query) => {
     const words = query.replace(/^\s*velora\./, "").match(/\w+/g) ?? [];
     return words.map((word) => `*${word}* ${word}`).join(" ");
   },
 };
 
-// Runs the worker's script in a hidden frame.
+// A replacement for Worker that runs the script in a hidden frame.
 class FrameWorker extends EventTarget {
   constructor(url) {
     super();
