@@ -1,4 +1,4 @@
-// A complete host: it runs a script, then a frame at a time until the script sets the global `over`, and ends in order.
+// A complete host: runs a script, then frame after frame until the script sets the global `over`, then shuts down.
 #include <chrono>
 #include <iostream>
 #include <lua.hpp>
