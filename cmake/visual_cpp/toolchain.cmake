@@ -10,6 +10,7 @@ set(CMAKE_CXX_COMPILER ${VELORA_SYSROOT}/bin/clang-cl)
 set(CMAKE_LINKER /usr/bin/lld-link-19)
 set(CMAKE_AR /usr/bin/llvm-lib-19)
 set(CMAKE_MT /usr/bin/llvm-mt-19)
+set(CMAKE_NM /usr/bin/llvm-nm-19)
 set(CMAKE_RC_COMPILER /usr/bin/llvm-rc-19)
 
 file(STRINGS ${VELORA_SYSROOT}/flags flags)
