@@ -26,8 +26,8 @@ test: ## build and run every test: on Linux, as Windows programs under Wine, pac
 	cmake --build --preset windows
 	tools/wine_run ctest --preset windows
 	$(MAKE) package
-	tests/package/check $(BUILD)/package/*.tar.gz $(BUILD)/release
-	tools/wine_run tests/package/check $(BUILD)/package/*.zip $(BUILD)/windows
+	tests/package/check $(BUILD)/package/*64.tar.gz $(BUILD)/release
+	tools/wine_run tests/package/check $(BUILD)/package/*64.zip $(BUILD)/windows
 	tests/package/consume $(BUILD)/release
 	tools/setup browser
 	tests/site/check $(BUILD)/site
@@ -50,16 +50,18 @@ visual-cpp: ## build for Visual C++'s ABI with Clang and run every test under Wi
 	tools/wine_run ctest --preset visual-cpp
 
 .PHONY: package
-package: ## pack what a host needs, for Linux and for 64-bit Windows, into build/package
+package: ## pack what a host needs, and the symbols, for Linux and for 64-bit Windows, into build/package
 	tools/setup package
 	rm -rf $(BUILD)/package
 	$(MAKE) site
 	cmake --preset release
 	cmake --build --preset release
 	cpack --preset release
+	cpack --preset release-symbols
 	cmake --preset windows
 	cmake --build --preset windows --target LuaVelora velora-play
 	cpack --preset windows
+	cpack --preset windows-symbols
 	rm -rf $(BUILD)/package/_CPack_Packages
 
 .PHONY: site

@@ -6,6 +6,7 @@
 #   include/lua5.3/       Lua's headers, on Windows
 #   share/LuaVelora/      README.md, CHANGELOG.md, docs/, examples/, types/, site/; on Windows licences/
 # `--component module` leaves out the offline runtime, platform/, the player and share/.
+# The component symbols has an archive of its own with FILE.debug or FILE.pdb for each program and library.
 include(CMakePackageConfigHelpers)
 set(package lib/cmake/LuaVelora)
 
@@ -56,7 +57,16 @@ install(DIRECTORY docs examples types DESTINATION share/LuaVelora)
 install(FILES README.md CHANGELOG.md DESTINATION share/LuaVelora)
 # The documents as web pages, if `make site` has written them.
 install(DIRECTORY build/site DESTINATION share/LuaVelora OPTIONAL)
+
+foreach(target ${libraries} velora_sdk velora-play velora_module velora_binding_helpers)
+  add_symbols(${target})
+endforeach()
+foreach(target ${libraries} velora_sdk)
+  split_symbols(${target} $<IF:$<BOOL:${WIN32}>,bin,lib>)
+endforeach()
+split_symbols(velora-play bin)
 if(MINGW)
+  install(FILES ${VELORA_MINGW_RUNTIME_SYMBOLS} DESTINATION bin COMPONENT symbols EXCLUDE_FROM_ALL)
   # The licences of third-party DLLs, if they are installed.
   foreach(origin gcc-mingw-w64-base mingw-w64-common liblua5.3-dev)
     install(FILES /usr/share/doc/${origin}/copyright DESTINATION share/LuaVelora/licences RENAME ${origin}.txt OPTIONAL)
@@ -74,4 +84,9 @@ if(WIN32)
 else()
   set(CPACK_GENERATOR TGZ)
 endif()
+# The archive of the symbols: what CPackConfig.cmake says, of the component symbols only.
+file(WRITE ${CMAKE_BINARY_DIR}/CPackSymbolsConfig.cmake "include(${CMAKE_BINARY_DIR}/CPackConfig.cmake)
+set(CPACK_PACKAGE_FILE_NAME ${CPACK_PACKAGE_FILE_NAME}-symbols)
+set(CPACK_INSTALL_CMAKE_PROJECTS \"${CMAKE_BINARY_DIR};${PROJECT_NAME};symbols;/\")
+")
 include(CPack)
