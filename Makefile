@@ -48,6 +48,9 @@ visual-cpp: ## build for Visual C++'s ABI with Clang and run every test under Wi
 	cmake --preset visual-cpp
 	cmake --build --preset visual-cpp
 	tools/wine_run ctest --preset visual-cpp
+	set -- $(BUILD)/package/*64.zip; if [ -e "$$1" ]; then \
+	  tools/wine_run tests/package/check_visual_cpp "$$1" $(BUILD)/visual-cpp $(BUILD)/visual-cpp-sysroot; \
+	else echo "no host is built against the Windows package: make package has not run"; fi
 
 .PHONY: package
 package: ## pack what a host needs, and the symbols, for Linux and for 64-bit Windows, into build/package
