@@ -26,47 +26,16 @@ void KeepErrorText(lua_State* L) {
 
 }  // namespace
 
-void Owned::Unlink() {
-  if (link_ != nullptr) *link_ = next_;
-  if (next_ != nullptr) next_->link_ = link_;
-  next_ = nullptr;
-  link_ = nullptr;
-}
-
 void ModuleState::ReleaseAll() {
-  while (first_ != nullptr) {
-    Owned& owned = *first_;
-    owned.Unlink();  // it may outlive its release
-    owned.state_ = nullptr;
-    owned.Release();
-  }
-  while (freeBlocks_ != nullptr) ::operator delete(std::exchange(freeBlocks_, *static_cast<void**>(freeBlocks_)));
+  for (Pool& pool : pools_)
+    for (Slab** list : {&pool.open, &pool.full})
+      while (*list != nullptr) (*list)->Close();
 }
 
-void ModuleState::PayDebt(lua_State* L) {
+void ModuleState::RunCollector(lua_State* L) {
   const auto kilobytes = static_cast<int>(debt_ / 1024);
   debt_ = 0;
   if (lua_gc(L, LUA_GCISRUNNING, 0) != 0) lua_gc(L, LUA_GCSTEP, kilobytes);
-}
-
-void* ModuleState::TakeBlock() {
-  if (freeBlocks_ == nullptr) return ::operator new(kBlockSize);
-  --freeCount_;
-  return std::exchange(freeBlocks_, *static_cast<void**>(freeBlocks_));
-}
-
-void ModuleState::ReturnBlock(void* block) {
-  if (freeCount_ == kMaxFreeBlocks) return ::operator delete(block);
-  ++freeCount_;
-  *static_cast<void**>(block) = std::exchange(freeBlocks_, block);
-}
-
-void ModuleState::Link(Owned& owned) {
-  owned.state_ = this;
-  owned.next_ = first_;
-  owned.link_ = &first_;
-  if (first_ != nullptr) first_->link_ = &owned.next_;
-  first_ = &owned;
 }
 
 void OpenModuleState(lua_State* L, ModuleState::AtClose* atClose) {

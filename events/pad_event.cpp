@@ -17,6 +17,6 @@ const luaL_Reg kFunctions[] = {
 
 }  // namespace
 
-void RegisterPadEvent(lua_State* L) { RegisterClass<PadRecord>(L, kFunctions); }
+void RegisterPadEvent(lua_State* L) { RegisterClass<PadRecord>(L, kFunctions, nullptr); }
 
 }  // namespace luavelora

@@ -31,7 +31,7 @@ void SetSubTable(lua_State* L, const char* key, const luaL_Reg* functions) {
 // Afterwards the state's objects are invalid and the download service no longer calls it.
 void AtClose(lua_State* L, const ModuleState& state) {
   if (downloadHandler.state() == state.mainState) downloadHandler.SetState(nullptr);
-  UnregisterClasses(L);
+  UnregisterClasses(L, state);
 }
 
 // The module table stays on top from its creation to the end. It is published as soon as it has its functions.

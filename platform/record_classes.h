@@ -11,6 +11,13 @@
 
 namespace tarn::velora {
 
+// The classes in the order of their rows.
+enum RecordClass {
+#define VELORA_CLASS(Record, luaName) k##Record##Class,
+#include "platform/records.def"
+  kRecordClasses
+};
+
 // kName is the name of the class table, kMetatable that of the metatable of its objects.
 template <class Record>
 struct ClassNames;
@@ -18,6 +25,7 @@ struct ClassNames;
 #define VELORA_CLASS(Record, luaName)                        \
   template <>                                                \
   struct ClassNames<Record> {                                \
+    static constexpr RecordClass kClass = k##Record##Class;  \
     static constexpr const char* kName = luaName;            \
     static constexpr const char* kMetatable = "Lua" luaName; \
   };

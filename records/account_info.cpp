@@ -8,7 +8,6 @@ namespace {
 using tarn::velora::AccountInfo;
 
 const luaL_Reg kFunctions[] = {
-    Row<NewWithOptionalString<AccountInfo>>("new"),
     Row<Collect<AccountInfo>>("__gc"),
     Row<RecordToString<AccountInfo>>("__tostring"),
 #define VELORA_FIELD(name, Family) VELORA_GETTER(AccountInfo, name, Family), VELORA_SETTER(AccountInfo, name, Family),
@@ -18,6 +17,8 @@ const luaL_Reg kFunctions[] = {
 
 }  // namespace
 
-void RegisterAccountInfo(lua_State* L) { RegisterClass<AccountInfo>(L, kFunctions); }
+void RegisterAccountInfo(lua_State* L) {
+  RegisterClass<AccountInfo>(L, kFunctions, Entry<NewWithOptionalString<AccountInfo>>);
+}
 
 }  // namespace luavelora

@@ -27,15 +27,16 @@ struct ClassErrors;
 
 // Pushes a constructor's new object, whose holder is made from what `produce()` returns: a record, or a reference to
 // one, an empty one being an error. The userdata comes first, so that nothing is owned when Lua may raise.
+// Only for constructors, which have the ModuleState as their upvalue: that takes a tenth of the time of ModuleStateOf.
 template <class Record, class Produce>
 Outcome NewObject(lua_State* L, Produce produce) {
-  ModuleState* state = ModuleStateOf(L);
-  Owned** block = state == nullptr ? nullptr : PushWithoutHolder<Record>(L, *state);
-  if (block == nullptr) return Outcome::Results(state == nullptr ? 0 : 1);
-  const auto record = produce();
+  auto& state = *static_cast<ModuleState*>(lua_touserdata(L, lua_upvalueindex(1)));
+  Owned** block = PushWithoutHolder<Record>(L, state);
+  if (block == nullptr) return Outcome::Results(1);
+  auto record = produce();
   if constexpr (requires { record.get(); })
     if (record == nullptr) return Outcome::Error(ClassErrors<Record>::kUnsupported);
-  *block = state->Create<HolderOf<Record>>(record);
+  *block = state.Create<HolderOf<Record>>(std::move(record));
   return Outcome::Results(1);
 }
 
@@ -84,15 +85,21 @@ Outcome RecordToString(lua_State* L) {
   return ToString<Record>(L, [](HolderOf<Record>& holder, std::string& out) { return holder.record->toString(out); });
 }
 
-// Makes the class table from `rows`, which end with an empty row, registers the class and stores its table in the table
-// on top of the stack. May raise.
+// Makes the class table from its constructor, which may be null, and from `rows`, which end with an empty row,
+// registers the class and stores its table in the table on top of the stack. May raise.
 template <class Record, std::size_t count>
-void RegisterClass(lua_State* L, const luaL_Reg (&rows)[count]) {
+void RegisterClass(lua_State* L, const luaL_Reg (&rows)[count], lua_CFunction constructor) {
   using Class = tarn::velora::ClassNames<Record>;
-  lua_createtable(L, 0, static_cast<int>(count) - 1);
+  ModuleState& state = *ModuleStateOf(L);
+  lua_createtable(L, 0, static_cast<int>(count));
   luaL_setfuncs(L, rows, 0);
+  if (constructor != nullptr) {
+    lua_pushlightuserdata(L, &state);
+    lua_pushcclosure(L, constructor, 1);
+    lua_setfield(L, -2, "new");
+  }
   luaL_getmetatable(L, Class::kMetatable);
-  PushMetatable<Record>(L);
+  PushMetatable<Record>(L, state);
   const bool isOurs = lua_rawequal(L, -1, -2) != 0;
   lua_pop(L, 2);
   if (!isOurs) RemoveUserTypeMetaTable(L, Class::kMetatable);  // somebody else's: its userdata would be read as objects
@@ -102,7 +109,11 @@ void RegisterClass(lua_State* L, const luaL_Reg (&rows)[count]) {
   lua_setfield(L, -2, "__gc");
   lua_pushlightuserdata(L, &classKey<Record>);
   lua_rawseti(L, -2, kClassMark);
-  lua_rawsetp(L, LUA_REGISTRYINDEX, &classKey<Record>);
+  int& reference = state.metatables[HolderOf<Record>::kClass];
+  if (reference == LUA_NOREF)
+    reference = luaL_ref(L, LUA_REGISTRYINDEX);
+  else
+    lua_rawseti(L, LUA_REGISTRYINDEX, reference);
   lua_setfield(L, -2, Class::kName);
 }
 

@@ -6,6 +6,8 @@ struct lua_State;
 
 namespace luavelora {
 
+struct ModuleState;
+
 void RegisterProductInfo(lua_State* L);
 void RegisterOrderInfo(lua_State* L);
 void RegisterQueryRankInfo(lua_State* L);
@@ -14,6 +16,6 @@ void RegisterAccountInfo(lua_State* L);
 void RegisterSkuDetailsInfo(lua_State* L);
 
 // Makes every object of every class, controller events included, a wrong self. Called when the state closes.
-void UnregisterClasses(lua_State* L);
+void UnregisterClasses(lua_State* L, const ModuleState& state);
 
 }  // namespace luavelora

@@ -2,18 +2,22 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 
 #include "binding/ownership.h"
 #include "platform/field_families.h"
-#include "platform/product_info.h"
-#include "platform/share_info.h"
+#include "platform/record_classes.h"
 
 namespace luavelora {
 
-// One owner of a record that the SDK may own too.
+static_assert(tarn::velora::kRecordClasses <= ModuleState::kMaxClasses);
+
+// One owner of a record that the SDK may own too. kClass is the number of its class in ModuleState.
 template <class Record>
 struct SharedRecordHolder : Owned {
-  explicit SharedRecordHolder(const std::shared_ptr<Record>& reference) noexcept : record(reference) {}
+  static constexpr int kClass = tarn::velora::ClassNames<Record>::kClass;
+
+  explicit SharedRecordHolder(std::shared_ptr<Record> reference) noexcept : record(std::move(reference)) {}
 
   std::shared_ptr<Record> record;
 };
@@ -24,7 +28,7 @@ using Cache = std::shared_ptr<const Container>;
 
 // A share request with its cached fields, which the constructor reads from the record.
 struct ShareInfoHolder : SharedRecordHolder<tarn::velora::ShareInfo> {
-  explicit ShareInfoHolder(const std::shared_ptr<tarn::velora::ShareInfo>& reference);
+  explicit ShareInfoHolder(std::shared_ptr<tarn::velora::ShareInfo> reference);
 
 #define VELORA_CACHED_FIELD(name, family, label) Cache<tarn::velora::families::family> name;
 #include "platform/share_info.def"
@@ -32,6 +36,8 @@ struct ShareInfoHolder : SharedRecordHolder<tarn::velora::ShareInfo> {
 
 // A private copy of a product, and its cached fields.
 struct ProductInfoHolder : Owned {
+  static constexpr int kClass = tarn::velora::kProductInfoClass;
+
   explicit ProductInfoHolder(const tarn::velora::ProductInfo& source);
 
   tarn::velora::ProductInfo record;

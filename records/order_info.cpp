@@ -93,7 +93,6 @@ const luaL_Reg kFunctions[] = {
 #define VELORA_FIELD_READ_ONLY(name, Family) VELORA_GETTER(OrderInfo, name, Family),
 #define VELORA_CLASS_FUNCTION(name) Row<functions::name>(#name),
 #include "platform/order_info.def"
-    Row<New>("new"),
     Row<Collect<OrderInfo>>("__gc"),
     Row<RecordToString<OrderInfo>>("__tostring"),
     {nullptr, nullptr},
@@ -128,7 +127,7 @@ const NamedInteger kConstants[] = {
 }  // namespace
 
 void RegisterOrderInfo(lua_State* L) {
-  RegisterClass<OrderInfo>(L, kFunctions);
+  RegisterClass<OrderInfo>(L, kFunctions, Entry<New>);
   for (const NamedInteger& constant : kConstants) SetConstant(L, constant.name, constant.value);
 }
 

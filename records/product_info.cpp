@@ -33,7 +33,6 @@ Outcome ProductToString(lua_State* L) {
 }
 
 const luaL_Reg kFunctions[] = {
-    Row<New>("new"),
     Row<Collect<ProductInfo>>("__gc"),
     Row<ProductToString>("__tostring"),
 #define VELORA_FIELD(name, Family)                            \
@@ -46,6 +45,6 @@ const luaL_Reg kFunctions[] = {
 
 }  // namespace
 
-void RegisterProductInfo(lua_State* L) { RegisterClass<ProductInfo>(L, kFunctions); }
+void RegisterProductInfo(lua_State* L) { RegisterClass<ProductInfo>(L, kFunctions, Entry<New>); }
 
 }  // namespace luavelora

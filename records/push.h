@@ -9,26 +9,22 @@
 
 namespace luavelora {
 
-// Pushes the metatable of the class, or nil if the class is not registered.
+// Pushes the metatable of the class, or nil and returns false if the class is not registered.
 template <class Record>
-void PushMetatable(lua_State* L) {
-  lua_rawgetp(L, LUA_REGISTRYINDEX, &classKey<Record>);
+bool PushMetatable(lua_State* L, const ModuleState& state) {
+  return lua_rawgeti(L, LUA_REGISTRYINDEX, state.metatables[HolderOf<Record>::kClass]) == LUA_TTABLE;
 }
 
-// What an object takes of the heap beside its userdata: its holder and, as a guess at the least, the SDK's record.
-template <class Record>
-inline constexpr std::size_t kObjectBytes = sizeof(HolderOf<Record>) + 80;
-
 // Pushes a new userdata that has no holder yet, and is therefore no object, and returns its block. `pushMetatable()`
-// pushes the metatable of the class. Pushes nil and returns null if that is nil or the state is closing. May raise.
+// is a PushMetatable. Pushes nil and returns null if that fails or the state is closing. May raise.
 template <class Record, class Push>
 Owned** PushWithoutHolder(lua_State* L, ModuleState& state, Push pushMetatable) {
-  state.Charge(L, kObjectBytes<Record>);
+  state.PayDebt(L);
   auto* block = static_cast<Owned**>(lua_newuserdata(L, sizeof(void*)));
   *block = nullptr;
-  pushMetatable();
+  const bool isRegistered = pushMetatable();
   // Tested now, since creating the userdata may have run script code, and even the closing.
-  if (state.closed || !lua_istable(L, -1)) {
+  if (state.closed || !isRegistered) [[unlikely]] {
     lua_pop(L, 2);
     lua_pushnil(L);
     return nullptr;
@@ -39,7 +35,7 @@ Owned** PushWithoutHolder(lua_State* L, ModuleState& state, Push pushMetatable) 
 
 template <class Record>
 Owned** PushWithoutHolder(lua_State* L, ModuleState& state) {
-  return PushWithoutHolder<Record>(L, state, [L] { PushMetatable<Record>(L); });
+  return PushWithoutHolder<Record>(L, state, [&] { return PushMetatable<Record>(L, state); });
 }
 
 // Pushes a userdata with a reference of its own to the record. Pushes nil if `reference` is empty or if no userdata can
@@ -54,17 +50,20 @@ void PushRecord(lua_State* L, ModuleState& state, const std::shared_ptr<Record>&
 
 template <class Record>
 void PushRecord(lua_State* L, ModuleState& state, const std::shared_ptr<Record>& reference) {
-  PushRecord(L, state, reference, [L] { PushMetatable<Record>(L); });
+  PushRecord(L, state, reference, [&] { return PushMetatable<Record>(L, state); });
 }
 
 // Pushes a new table with a userdata for each record, nil for an empty reference. May raise.
 template <class Record>
 void PushRecordList(lua_State* L, ModuleState& state, const std::vector<std::shared_ptr<Record>>& records) {
   lua_createtable(L, TableSize(records.size()), 0);
-  PushMetatable<Record>(L);
+  const bool isRegistered = PushMetatable<Record>(L, state);
   const int metatable = lua_gettop(L);
   for (std::size_t k = 0; k < records.size(); ++k) {
-    PushRecord(L, state, records[k], [L, metatable] { lua_pushvalue(L, metatable); });
+    PushRecord(L, state, records[k], [=] {
+      lua_pushvalue(L, metatable);
+      return isRegistered;
+    });
     lua_rawseti(L, metatable - 1, static_cast<lua_Integer>(k + 1));
   }
   lua_pop(L, 1);

@@ -9,7 +9,6 @@ namespace {
 using tarn::velora::QueryRankInfo;
 
 const luaL_Reg kFunctions[] = {
-    Row<NewWithOptionalString<QueryRankInfo>>("new"),
     Row<Collect<QueryRankInfo>>("__gc"),
     Row<RecordToString<QueryRankInfo>>("__tostring"),
 #define VELORA_FIELD(name, Family) \
@@ -21,7 +20,7 @@ const luaL_Reg kFunctions[] = {
 }  // namespace
 
 void RegisterQueryRankInfo(lua_State* L) {
-  RegisterClass<QueryRankInfo>(L, kFunctions);
+  RegisterClass<QueryRankInfo>(L, kFunctions, Entry<NewWithOptionalString<QueryRankInfo>>);
 #define VELORA_QUERY_RANK_CONSTANT(name) SetConstant(L, #name, QueryRankInfo::name);
 #include "platform/query_rank_constants.def"
 }

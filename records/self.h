@@ -8,9 +8,9 @@
 
 namespace luavelora {
 
-// Its address stands for the class: it is the registry key of the class's metatable, and the value of the metatable's
-// kClassMark. Looking at the mark is what makes a method call quick; looking the metatable up by its name takes three
-// times as long. Not const, since linkers may give equal constants one address.
+// Its address stands for the class: it is the value of the metatable's kClassMark. Looking at the mark is what makes a
+// method call quick; looking the metatable up by its name takes three times as long. Not const, since linkers may give
+// equal constants one address.
 template <class Record>
 inline char classKey = 0;
 

@@ -28,8 +28,8 @@ void WriteBack(ShareInfo& record, void (ShareInfo::*set)(const Container&), Cach
 
 }  // namespace
 
-ShareInfoHolder::ShareInfoHolder(const std::shared_ptr<ShareInfo>& reference) : SharedRecordHolder(reference) {
-#define VELORA_CACHED_FIELD(name, Family, label) name = Take(*reference, &ShareInfo::get_##name);
+ShareInfoHolder::ShareInfoHolder(std::shared_ptr<ShareInfo> reference) : SharedRecordHolder(std::move(reference)) {
+#define VELORA_CACHED_FIELD(name, Family, label) name = Take(*record, &ShareInfo::get_##name);
 #include "platform/share_info.def"
 }
 
@@ -47,7 +47,6 @@ Outcome ShareToString(lua_State* L) {
 }
 
 const luaL_Reg kFunctions[] = {
-    Row<NewWithOptionalString<ShareInfo>>("new"),
     Row<Collect<ShareInfo>>("__gc"),
     Row<ShareToString>("__tostring"),
 #define VELORA_FIELD(name, Family) VELORA_GETTER(ShareInfo, name, Family), VELORA_SETTER(ShareInfo, name, Family),
@@ -59,7 +58,7 @@ const luaL_Reg kFunctions[] = {
 }  // namespace
 
 void RegisterShareInfo(lua_State* L) {
-  RegisterClass<ShareInfo>(L, kFunctions);
+  RegisterClass<ShareInfo>(L, kFunctions, Entry<NewWithOptionalString<ShareInfo>>);
 #define VELORA_SHARE_CONSTANT(name) SetConstant(L, "SHARE_" #name, ShareInfo::name);
 #include "platform/share_constants.def"
 }

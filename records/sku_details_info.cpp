@@ -20,7 +20,6 @@ Outcome New(lua_State* L) {
 }
 
 const luaL_Reg kFunctions[] = {
-    Row<New>("new"),
     Row<Collect<SkuDetailsInfo>>("__gc"),
     Row<RecordToString<SkuDetailsInfo>>("__tostring"),
 #define VELORA_FIELD(name, Family) \
@@ -31,6 +30,6 @@ const luaL_Reg kFunctions[] = {
 
 }  // namespace
 
-void RegisterSkuDetailsInfo(lua_State* L) { RegisterClass<SkuDetailsInfo>(L, kFunctions); }
+void RegisterSkuDetailsInfo(lua_State* L) { RegisterClass<SkuDetailsInfo>(L, kFunctions, Entry<New>); }
 
 }  // namespace luavelora

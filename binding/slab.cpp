@@ -1,0 +1,43 @@
+#include "binding/slab.h"
+
+namespace luavelora {
+
+void Slab::Close() {
+  Unlink();
+  --pool_->slabs;
+  pool_ = nullptr;
+  isClosing_ = true;
+  for (unsigned slot = 0; slot < kMaxSlots; ++slot)
+    if ((adopted_ & Bit(slot)) != 0) ObjectIn(slot).Release();
+  isClosing_ = false;
+  if (taken_ == absent_) delete this;
+}
+
+void Slab::LinkTo(Slab*& list) {
+  next_ = list;
+  link_ = &list;
+  if (next_ != nullptr) next_->link_ = &next_;
+  list = this;
+}
+
+void Slab::Unlink() {
+  *link_ = next_;
+  if (next_ != nullptr) next_->link_ = link_;
+}
+
+// A slot of a full slab became free, or the last one of any slab.
+void Slab::Settle() {
+  const bool isEmpty = taken_ == absent_;
+  if (pool_ == nullptr) {
+    if (isEmpty && !isClosing_) delete this;
+    return;
+  }
+  MoveTo(pool_->open);
+  if (isEmpty && next_ != nullptr) {
+    Unlink();
+    --pool_->slabs;
+    delete this;
+  }
+}
+
+}  // namespace luavelora

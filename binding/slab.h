@@ -1,0 +1,163 @@
+// Memory of the objects that userdata own. Objects of one type are in slabs, so that they cost little memory and no
+// list, and all of them are found when the state closes.
+#pragma once
+
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+
+namespace luavelora {
+
+class Slab;
+
+// An object that a userdata of one Lua state owns, used on the thread of Lua only. While a Pin on it lives it can be
+// released (by a script that calls `__gc`, or by lua_close) but is not freed until the last Pin is gone.
+class Owned {
+ public:
+  Owned() = default;
+  Owned(const Owned&) = delete;
+  Owned& operator=(const Owned&) = delete;
+
+  // Frees the object, now or when its last Pin is gone. Runs no Lua.
+  void Release() {
+    uses_ |= kReleased;
+    FreeIfDone();
+  }
+
+ protected:
+  ~Owned() = default;
+
+ private:
+  friend class Pin;
+  friend class Slab;
+  void FreeIfDone();
+
+  Slab* slab_ = nullptr;
+  unsigned slot_ = 0;
+  static constexpr unsigned kReleased = 1;
+  static constexpr unsigned kPin = 2;
+  unsigned uses_ = 0;  // kPin for each Pin, and kReleased
+};
+
+// Keeps an object alive while the SDK works with it: the SDK may call back into scripts, which may call `__gc` on the
+// same object. Must not be alive across a Lua call that can raise.
+class Pin {
+ public:
+  explicit Pin(Owned& owned) : owned_(owned) { owned_.uses_ += Owned::kPin; }
+  Pin(const Pin&) = delete;
+  Pin& operator=(const Pin&) = delete;
+  ~Pin() {
+    owned_.uses_ -= Owned::kPin;
+    owned_.FreeIfDone();
+  }
+
+ private:
+  Owned& owned_;
+};
+
+// The slabs of one type of object in one Lua state.
+struct Pool {
+  Slab* open = nullptr;  // those with a free slot
+  Slab* full = nullptr;
+  std::size_t slabs = 0;
+};
+
+// One heap block with slots for objects of one type. It is freed with its last object, unless it is the only one of its
+// pool with a free slot.
+class Slab {
+ public:
+  static constexpr std::size_t kMaxSlots = 64;
+
+  Slab(Pool& pool, std::size_t slots) : pool_(&pool), absent_(slots == kMaxSlots ? 0 : kAll << slots) {
+    LinkTo(pool.open);
+    ++pool.slabs;
+  }
+  Slab(const Slab&) = delete;
+  Slab& operator=(const Slab&) = delete;
+
+  // Takes a free slot of an open slab.
+  unsigned TakeSlot() {
+    const auto slot = static_cast<unsigned>(std::countr_one(taken_));
+    taken_ |= Bit(slot);
+    if (taken_ == kAll) [[unlikely]]
+      MoveTo(pool_->full);
+    return slot;
+  }
+
+  // From now on `object`, which is in the taken slot, is released when the state closes.
+  void Adopt(Owned& object, unsigned slot) {
+    object.slab_ = this;
+    object.slot_ = slot;
+    adopted_ |= Bit(slot);
+  }
+
+  // Frees a slot that holds no object, or none any more.
+  void FreeSlot(unsigned slot) {
+    const bool wasFull = taken_ == kAll;
+    taken_ &= ~Bit(slot);
+    if (wasFull || taken_ == absent_) [[unlikely]]
+      Settle();
+  }
+
+  // Destroys an adopted object and frees its slot.
+  void Free(Owned& object) {
+    const unsigned slot = object.slot_;
+    adopted_ &= ~Bit(slot);
+    Destroy(object);
+    FreeSlot(slot);
+  }
+
+  // Releases all objects. The slab leaves its pool, and is freed with the last object that a Pin or a constructor
+  // keeps.
+  void Close();
+
+ protected:
+  virtual ~Slab() = default;
+
+ private:
+  virtual Owned& ObjectIn(unsigned slot) = 0;
+  virtual void Destroy(Owned& object) = 0;
+
+  static constexpr std::uint64_t kAll = ~std::uint64_t{0};
+  static constexpr std::uint64_t Bit(unsigned slot) { return std::uint64_t{1} << slot; }
+
+  void LinkTo(Slab*& list);
+  void Unlink();
+  void MoveTo(Slab*& list) {
+    Unlink();
+    LinkTo(list);
+  }
+  void Settle();
+
+  Slab* next_ = nullptr;
+  Slab** link_ = nullptr;  // the pointer that points to this slab
+  Pool* pool_;             // null once the state is closed
+  const std::uint64_t absent_;
+  std::uint64_t taken_ = absent_;
+  std::uint64_t adopted_ = 0;
+  bool isClosing_ = false;
+};
+
+template <class Object>
+class SlabOf final : public Slab {
+ public:
+  static constexpr std::size_t kSlots = std::clamp<std::size_t>(2048 / sizeof(Object), 1, kMaxSlots);
+
+  explicit SlabOf(Pool& pool) : Slab(pool, kSlots) {}
+
+  void* Memory(unsigned slot) { return memory_ + slot * sizeof(Object); }
+
+ private:
+  Owned& ObjectIn(unsigned slot) override { return *std::launder(static_cast<Object*>(Memory(slot))); }
+  void Destroy(Owned& object) override { static_cast<Object&>(object).~Object(); }
+
+  alignas(Object) std::byte memory_[kSlots * sizeof(Object)];
+};
+
+inline void Owned::FreeIfDone() {
+  if (uses_ == kReleased) [[unlikely]]
+    slab_->Free(*this);
+}
+
+}  // namespace luavelora
