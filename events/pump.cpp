@@ -3,6 +3,7 @@
 
 #include <bitset>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "binding/callback_error.h"
@@ -21,6 +22,7 @@ using tarn::velora::Event;
 struct Pass {
   std::vector<std::shared_ptr<Event>> batch;
   std::size_t next = 0;
+  bool collectorPaused = false;  // until the next callback has its arguments
 
   // Releases the events in queue order; the order of a vector's own destructor is unspecified.
   ~Pass() {
@@ -30,17 +32,23 @@ struct Pass {
 
 constexpr int kTableIndex = 1;
 
-// Calls the slot's function, which is on top of the stack, with the arguments of the layout.
+void ResumeCollector(lua_State* L, Pass& pass) {
+  if (std::exchange(pass.collectorPaused, false)) lua_gc(L, LUA_GCRESTART, 0);
+}
+
+// Calls the slot's function, which is on top of the stack, with the arguments of the layout. Once it is called nothing
+// raises.
 template <class Layout>
-void Deliver(lua_State* L, ModuleState& state, const Event& event) {
+void Deliver(lua_State* L, ModuleState& state, Pass& pass, const Event& event) {
   const int arguments = PushArguments(L, state, static_cast<const Layout&>(event));
+  ResumeCollector(L, pass);
   if (lua_pcallk(L, arguments, 0, 0, 0, nullptr) != LUA_OK) {
     LogCallbackError(L);
     lua_pop(L, 1);
   }
 }
 
-using DeliverFunction = void (*)(lua_State*, ModuleState&, const Event&);
+using DeliverFunction = void (*)(lua_State*, ModuleState&, Pass&, const Event&);
 
 constexpr DeliverFunction kDeliver[] = {
 #define VELORA_EVENT(type, name, Layout) Deliver<tarn::velora::Layout>,
@@ -66,15 +74,15 @@ void DeliverRest(lua_State* L, Pass& pass) {
   if (state == nullptr) return;
   GetSdkCallbackTable(L, kCallbackTable);
   std::bitset<kEventTypes> empty;  // the slots found empty since a callback ran
-  while (pass.next < pass.batch.size()) {
-    const Event* reference = pass.batch[pass.next++].get();
+  for (; pass.next < pass.batch.size(); ++pass.next) {
+    const Event* reference = pass.batch[pass.next].get();
     if (reference == nullptr) continue;
     const Event& event = *reference;
     const auto type = static_cast<std::uint32_t>(event.type);
     if (type < kEventTypes && empty[type]) continue;
     const bool wanted = lua_rawgeti(L, kTableIndex, event.type) != LUA_TNIL;
     if (wanted && type < kEventTypes) {
-      kDeliver[type](L, *state, event);
+      kDeliver[type](L, *state, pass, event);
       empty.reset();
       continue;
     }
@@ -95,10 +103,15 @@ Outcome RunPass(lua_State* L) {
   auto rest = [&pass](lua_State* state) { DeliverRest(state, pass); };
   while (pass.next < pass.batch.size()) {
     const int status = Protected(L, 0, rest);
+    ResumeCollector(L, pass);
     if (status == LUA_OK) break;
     if (status != LUA_ERRGCMM) return Outcome::Rethrow();
     LogCallbackError(L);
     lua_pop(L, 1);
+    // The finalizer of another object raised before the callback was called. The event is delivered again, with the
+    // collector, which must have been running, paused while its arguments are built: no finalizer runs then.
+    lua_gc(L, LUA_GCSTOP, 0);
+    pass.collectorPaused = true;
   }
   return Outcome::Results(0);
 }

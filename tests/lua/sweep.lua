@@ -14,6 +14,11 @@ end
 handler = {onInited = print, onProgress = function() end, onFinish = function() end}
 function nest() return select(2, string.gsub("x", "x", nest)) end
 function nothing() end
+function plant()
+  collectgarbage("stop") collectgarbage("setpause", 0) collectgarbage("setstepmul", 1000000)
+  setmetatable({}, {__gc = function() error("finaliser") end})
+end
+function restart() collectgarbage("restart") end
 
 function wrappers()
   local good = {objects.OrderInfo, objects.ShareInfo, objects.QueryRankInfo, {"a", 2.5}, {a = 1}, "text", 1.5, 7}
