@@ -101,9 +101,14 @@ TEST_F(Sweep, NothingIsLostWhereverMemoryRunsOut) {
 TEST_F(Sweep, AFailedInitLosesNothingAndCanBeCalledAgain) {
   const char* const kCount = "local n = 0 for _ in pairs(velora) do n = n + 1 end return n";
   const std::string names = std::make_unique<Host>()->Run(kCount);
-  bool published = false;  // seen with its functions before its classes stood
-  for (long allowed = 0;; ++allowed) {
+  bool published = false;                  // seen with its functions before its classes stood
+  const int kEntries[] = {0, 1, 2, 4, 8};  // more in the registry, so that it grows at another place
+  for (long i = 0, allowed = 0; i < std::ssize(kEntries); ++allowed) {
     Host host(false);
+    for (int k = 1; k <= kEntries[i]; ++k) {
+      lua_pushboolean(host.L, 1);
+      lua_setfield(host.L, LUA_REGISTRYINDEX, std::to_string(k).c_str());
+    }
     lua_pushcfunction(host.L, [](lua_State* L) {
       InitLuaVelora(L);
       return 0;
@@ -120,11 +125,17 @@ TEST_F(Sweep, AFailedInitLosesNothingAndCanBeCalledAgain) {
         "pads = pads + (pad and getmetatable(pad) ~= false and 1 or 0) end) end");
     ASSERT_EQ(host.Frame(), "");
     InitLuaVelora(host.L);
-    ASSERT_EQ(host.Run(kCount), names);
-    ASSERT_EQ(
-        host.Run("return velora.OrderInfo.new('a'):get_productId(), getmetatable(velora.ProductInfo.new()), pads"),
-        "\"a\", false, 0");
-    if (enough) break;
+    ASSERT_EQ(host.Run("pads = pads == 0 collectgarbage() " + std::string(kCount)), names);
+    host.Run("velora.setOnControllerStateEvent(function(pad) x = pad:get_x() end)");
+    offline::Post(MakeEvent(10, true));
+    ASSERT_EQ(host.Frame(), "");
+    ASSERT_EQ(host.Run("local v = velora return pads, x, v.OrderInfo.new('a'):get_count(), "
+                       "v.ProductInfo.new():get_productPrice(), v.QueryRankInfo.new():get_count(), "
+                       "v.ShareInfo.new():get_linkParams(), v.AccountInfo.new():get_rank(), "
+                       "v.SkuDetailsInfo.new(1, 2, 3, 4, 5, 6, 7):get_price()"),
+              "true, 0.0, 0, 0.0, 0, {}, 0, \"2\"")
+        << allowed << " allowed, " << kEntries[i] << " entries";
+    if (enough) ++i, allowed = -1;
   }
   EXPECT_TRUE(published);
 }
