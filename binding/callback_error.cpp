@@ -2,6 +2,7 @@
 #include "binding/callback_error.h"
 
 #include <cstdio>
+#include <exception>
 
 #include "binding/conversions.h"
 #include "platform/log.h"
@@ -17,7 +18,15 @@ void LogCallbackError(lua_State* L) {
     std::snprintf(placeholder, sizeof placeholder, "(error object is a %s value)", luaL_typename(L, -1));
     text = placeholder;
   }
-  tarn::log::Log(tarn::velora::LogChannel, 0, "[Velora callback err] %s", text);
+  LogCallbackError(text);
+}
+
+void LogCallbackError(const char* text) {
+  try {
+    tarn::log::Log(tarn::velora::LogChannel, 0, "[Velora callback err] %s", text);
+  } catch (const std::exception&) {
+    // The line is lost, the host is not.
+  }
 }
 
 }  // namespace luavelora

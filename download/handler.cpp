@@ -1,8 +1,6 @@
 // Forwarding the download service's calls to Lua.
 #include "download/handler.h"
 
-#include <exception>
-
 #include "binding/boundary.h"
 #include "binding/callback_error.h"
 #include "platform/binding_helpers.h"
@@ -23,11 +21,7 @@ void LuaSyncDownloadHandler::Forward(const char* key, PushArguments pushArgument
     lua_callk(inner, pushArguments(inner), 0, 0, nullptr);
   };
   if (Protected(L, 0, call) == LUA_OK) return;
-  try {
-    LogCallbackError(L);
-  } catch (const std::exception&) {
-    // No memory for the line: the error is lost, the host is not.
-  }
+  LogCallbackError(L);
   lua_pop(L, 1);
 }
 

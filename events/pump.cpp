@@ -2,6 +2,7 @@
 #include "events/pump.h"
 
 #include <bitset>
+#include <exception>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -66,6 +67,15 @@ constexpr bool InOrder() {
 }
 static_assert(InOrder(), "the rows of events.def are in the order of their type numbers");
 
+// If the log library throws, the line is lost.
+void LogUnknownType(std::int32_t type) {
+  try {
+    tarn::log::LogError(tarn::velora::LogChannel, "Unknown velora event %d", type);
+  } catch (const std::exception&) {
+    // The next event follows.
+  }
+}
+
 // Delivers the rest of the batch; runs in protected mode. The callback table never changes during the state's life, so
 // it is fetched once; a slot is read for every event, since callbacks may change it, unless it was found empty and no
 // callback has run since.
@@ -88,7 +98,7 @@ void DeliverRest(lua_State* L, Pass& pass) {
     }
     lua_pop(L, 1);
     if (wanted)
-      tarn::log::LogError(tarn::velora::LogChannel, "Unknown velora event %d", event.type);
+      LogUnknownType(event.type);
     else if (type < kEventTypes)
       empty.set(type);
   }

@@ -91,7 +91,8 @@ VELORA_SDK_API std::size_t LiveRecords();
 // and the runtime's own calls do not. Lets tests make an operation throw or call back.
 VELORA_SDK_API void SetCallHook(void (*hook)(const char* operation));
 
-// Notified of what the runtime does, on the thread that does it. The functions must not call operations.
+// Notified of what the runtime does, on the thread that does it. The functions must not call operations. What
+// OnLog throws leaves the log library.
 class Observer {
  public:
   virtual ~Observer() = default;

@@ -1,4 +1,4 @@
-// The log library. Writes lines to stderr and keeps them for TakeLog. Logging never throws.
+// The log library. Writes lines to stderr and keeps them for TakeLog. Throws only what the observer throws.
 #include "platform/log.h"
 
 #include <algorithm>
@@ -61,20 +61,22 @@ void AppendFormatted(std::string& line, const char* format, std::va_list argumen
 
 // Prints the level in red if `isError` and colours are on.
 void Write(std::uint32_t channel, const char* level, bool isError, const char* format, std::va_list arguments) {
+  std::string line;
   try {
     const std::string start = "[" + ChannelName(channel) + "] ";
     std::string rest = " ";
     if (format != nullptr) AppendFormatted(rest, format, arguments);
-    std::string line = start + level + rest;
+    line = start + level + rest;
     if (GetLogState().toStderr) {
       const bool red = isError && GetLogState().colour;
       std::fprintf(stderr, "%s\n", red ? (start + "\033[31m" + level + "\033[0m" + rest).c_str() : line.c_str());
     }
-    if (auto* observer = velora::offline::GetObserver()) observer->OnLog(line);
-    GetLogState().lines.Add(std::move(line));
+    GetLogState().lines.Add(line);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "[?] ERROR a log line is dropped: %s\n", error.what());
+    return;
   }
+  if (auto* observer = velora::offline::GetObserver()) observer->OnLog(line);
 }
 
 }  // namespace

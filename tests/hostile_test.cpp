@@ -167,6 +167,33 @@ TEST_F(Hostile, AnSdkThatThrows) {
   deed = Deed::kNothing;
 }
 
+// What a broken SDK hands over, and a log library that throws in place of taking a line.
+struct Broken : offline::Observer {
+  Broken() { offline::SetObserver(this); }
+  ~Broken() override { offline::SetObserver(nullptr); }
+  void OnEvents(const std::vector<std::shared_ptr<Event>>& events) override {
+    auto& batch = const_cast<std::vector<std::shared_ptr<Event>>&>(events);
+    batch.insert(batch.begin(), nullptr);
+  }
+  void OnLog(const std::string&) override {
+    ++lines;
+    throw std::runtime_error("the log broke");
+  }
+  int lines = 0;
+};
+
+TEST_F(Hostile, EmptyReferencesAndALogThatThrows) {
+  Broken broken;
+  host.Run(
+      "got = 0 velora.setOnLoginDone(function() got = got + 1 error('x') end) debug.getregistry().VELORA[-1] = 1 "
+      "velora.download.setSyncDownloadHandler{onInited = error, onProgress = noop, onFinish = noop}");
+  for (int type : {15, -1, 15}) offline::Post(std::make_shared<CodeEvent>(type));
+  EXPECT_EQ(host.Frame(), "");
+  offline::Handlers().at(0)->onInited();
+  EXPECT_EQ(host.Run("return got"), "2");
+  EXPECT_EQ(broken.lines, 4);
+}
+
 // The script's handler runs in the middle of a call and finishes the very objects in hand.
 TEST_F(Hostile, AnSdkThatCallsScriptsInTheMiddleOfACall) {
   EXPECT_EQ(host.Run("return callWhatCallsBack(3)"), "true, true, \"inner\"");
