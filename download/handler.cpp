@@ -12,7 +12,8 @@ LuaSyncDownloadHandler downloadHandler;
 template <class PushArguments>
 void LuaSyncDownloadHandler::Forward(const char* key, PushArguments pushArguments) {
   lua_State* L = state_;
-  if (L == nullptr || !lua_checkstack(L, LUA_MINSTACK)) return;
+  if (L == nullptr) return;
+  if (!lua_checkstack(L, LUA_MINSTACK)) return LogCallbackError("stack overflow");
   auto call = [&](lua_State* inner) {
     GetSdkCallbackTable(inner, kHandlerTable);
     lua_pushstring(inner, key);

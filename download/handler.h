@@ -13,7 +13,8 @@ inline constexpr const char* kHandlerKeys[kHandlerFunctions] = {"onInited", "onP
 
 // Forwards each of the SDK's calls to the script's function of the same name, in the state that registered it, and
 // does nothing while none is. The SDK must call it on the thread of that state. Nothing ever leaves an operation: what
-// the function raises, or what Lua raises while the arguments are built, is logged as a callback error.
+// the function raises, what Lua raises while the arguments are built, and a full Lua stack are logged as errors of a
+// callback.
 class LuaSyncDownloadHandler final : public tarn::velora::download::SyncDownloadHandler {
  public:
   void onInited() override;

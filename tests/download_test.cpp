@@ -95,11 +95,15 @@ TEST_F(Download, ErrorsOfTheFunctionsAreLogged) {
   auto* handler = offline::Handlers().at(0);
   handler->onInited();
   handler->onProgress("x");
+  while (lua_checkstack(host.L, LUA_MINSTACK)) lua_settop(host.L, lua_gettop(host.L) + LUA_MINSTACK);
+  handler->onInited();
+  lua_settop(host.L, 0);
   handler->onFinish("x", nullptr, 0);
   handler->onInited();  // unregistered by then
   EXPECT_EQ(offline::TakeLog(), (std::vector<std::string>{
                                     "[VELORA] 0 [Velora callback err] one",
                                     "[VELORA] 0 [Velora callback err] (error object is a table value)",
+                                    "[VELORA] 0 [Velora callback err] stack overflow",
                                     "[VELORA] 0 [Velora callback err] three",
                                 }));
   EXPECT_EQ(lua_gettop(host.L), 0);
