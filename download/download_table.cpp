@@ -73,7 +73,7 @@ Outcome SetSyncDownloadHandler(lua_State* L) {
   sdk::removeSyncDownloadHandler(&downloadHandler);
   downloadHandler.SetState(nullptr);
   ClearFunctions(L);
-  if (!given || state->closed) return Outcome::Results(0);
+  if (!given || state == nullptr || state->closed) return Outcome::Results(0);
   if (!ReadFunctions(L)) return Outcome::Error("setSyncDownloadHandler with invalid lua handler");
   StoreFunctions(L);
   Register(state->mainState);

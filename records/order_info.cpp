@@ -22,14 +22,14 @@ namespace functions {
 Outcome getProductList(lua_State* L) {
   std::unordered_map<std::string, ProductInfo> products;
   OrderInfo::getProductList(products);
-  if (products.empty()) return Outcome::Results(0);
-  return PushProtected(L, [&products](lua_State* inner) {
-    ModuleState& state = *ModuleStateOf(inner);
+  ModuleState* state = ModuleStateOf(L);
+  if (products.empty() || state == nullptr) return Outcome::Results(0);
+  return PushProtected(L, [&products, state](lua_State* inner) {
     lua_createtable(inner, 0, TableSize(products.size()));
     for (const auto& [productId, product] : products) {
       lua_pushstring(inner, productId.c_str());
-      if (Owned** block = PushWithoutHolder<ProductInfo>(inner, state))
-        *block = state.Create<ProductInfoHolder>(product);
+      if (Owned** block = PushWithoutHolder<ProductInfo>(inner, *state))
+        *block = state->Create<ProductInfoHolder>(product);
       lua_rawset(inner, -3);
     }
   });

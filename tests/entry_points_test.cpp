@@ -104,6 +104,20 @@ TEST_F(EntryPoints, DeinitRaisesNoErrorOfAFinaliser) {
   EXPECT_EQ(lua_pcall(host.L, 0, 0, 0), LUA_OK);
 }
 
+// A state whose record is not in the registry.
+TEST_F(EntryPoints, FunctionsWithoutTheModulesStateReturnNothing) {
+  offline::SetProduct({});
+  offline::SetCheckedOrders({offline::MakeOrder({})});
+  EXPECT_EQ(host.Run("local registry = debug.getregistry() local key, state "
+                     "for k, v in pairs(registry) do if type(k) == type(v) and type(k) == 'userdata' then "
+                     "key, state = k, v end end registry[key] = nil "
+                     "local found = {velora.OrderInfo.getProductList(), velora.zvGetCheckedOrders(), "
+                     "velora.OrderInfo.new('x'), velora.download.setSyncDownloadHandler{onInited = print, "
+                     "onProgress = print, onFinish = print}, velora.download.getSyncDownloadHandler()} "
+                     "registry[key] = state return found, velora.OrderInfo.new('x'):get_productId()"),
+            "{}, \"x\"");
+}
+
 TEST_F(EntryPoints, ASecondInitKeepsOlderObjectsAndCallbacks) {
   host.Run("old = velora; order = velora.OrderInfo.new('gold'); velora.setOnLoginDone(print)");
   InitLuaVelora(host.L);

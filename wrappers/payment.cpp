@@ -17,8 +17,9 @@ Outcome zvQuerySkuDetails(lua_State* L) {
 Outcome zvGetCheckedOrders(lua_State* L) {
   std::vector<std::shared_ptr<tarn::velora::OrderInfo>> orders;
   tarn::velora::zvGetCheckedOrders(orders);
-  if (orders.empty()) return Outcome::Results(0);
-  return PushProtected(L, [&orders](lua_State* inner) { PushRecordList(inner, *ModuleStateOf(inner), orders); });
+  ModuleState* state = ModuleStateOf(L);
+  if (orders.empty() || state == nullptr) return Outcome::Results(0);
+  return PushProtected(L, [&orders, state](lua_State* inner) { PushRecordList(inner, *state, orders); });
 }
 
 }  // namespace luavelora::wrappers
