@@ -39,6 +39,8 @@ Verbatim FormatHandler(const SyncDownloadHandler* handler) { return {handler == 
 
 }  // namespace
 
+SyncDownloadHandler::SyncDownloadHandler() = default;
+
 void init() {
   if (Call(__func__).Flag(true)) ReplyIfEnabled({MakeServiceEvent<events::DownloadInited>()});
 }

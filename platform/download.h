@@ -13,7 +13,7 @@ namespace tarn::velora::download {
 // bytes are valid only during the call and may be null.
 class VELORA_SDK_TYPE SyncDownloadHandler {
  public:
-  SyncDownloadHandler() = default;
+  VELORA_SDK_API SyncDownloadHandler();
   SyncDownloadHandler(const SyncDownloadHandler&) = delete;
   SyncDownloadHandler& operator=(const SyncDownloadHandler&) = delete;
 
