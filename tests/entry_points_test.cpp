@@ -104,6 +104,50 @@ TEST_F(EntryPoints, DeinitRaisesNoErrorOfAFinaliser) {
   EXPECT_EQ(lua_pcall(host.L, 0, 0, 0), LUA_OK);
 }
 
+// enter(entry, full, hooked) calls the entry point, with a full Lua stack or under a hook that raises, if asked to.
+int CallEntryPoint(lua_State* L) {
+  const auto raise = [](lua_State* state, lua_Debug*) {
+    lua_sethook(state, nullptr, 0, 0);
+    luaL_error(state, "hooked");
+  };
+  if (lua_toboolean(L, 3)) lua_sethook(L, raise, LUA_MASKCALL, 0);
+  while (lua_toboolean(L, 2) && lua_checkstack(L, LUA_MINSTACK)) lua_settop(L, lua_gettop(L) + LUA_MINSTACK);
+  (*static_cast<void (**)(lua_State*)>(lua_touserdata(L, 1)))(L);
+  return 0;
+}
+
+// The Lua errors that leave each entry point.
+TEST_F(EntryPoints, WhatLeavesThem) {
+  struct Case {
+    const char* run;
+    const char* init;
+    const char* update;
+    const char* deinit;
+  };
+  for (const auto& [run, init, update, deinit] : {
+           Case{"enter(entry, true)", "test:1: stack overflow", "test:1: stack overflow", "test:1: stack overflow"},
+           // At the deepest level the protected call fails, and the entry point is called in its place.
+           {"local entered local function deep() local ok, e = pcall(deep) if entered then error(e or '', 0) end "
+            "entered = true enter(entry) end deep()",
+            "C stack overflow", "C stack overflow", ""},
+           {"setmetatable(_G, {__newindex = function() error('closed', 0) end}) enter(entry)", "closed", "", ""},
+           {"enter(entry, false, true)", "hooked", "hooked", ""},
+       }) {
+    const std::pair<void (*)(lua_State*), const char*> entries[] = {
+        {InitLuaVelora, init}, {UpdateLuaVelora, update}, {DeinitLuaVelora, deinit}};
+    for (auto [entry, expected] : entries) {
+      host.Open(entry != InitLuaVelora);
+      lua_register(host.L, "enter", CallEntryPoint);
+      lua_pushlightuserdata(host.L, &entry);
+      lua_setglobal(host.L, "entry");
+      offline::Post(std::make_shared<CodeEvent>(15));
+      EXPECT_EQ(host.Run(std::string("local ok, e = pcall(function() ") + run + " end) return ok and '' or e"),
+                '"' + std::string(expected) + '"')
+          << run;
+    }
+  }
+}
+
 // A state whose record is not in the registry.
 TEST_F(EntryPoints, FunctionsWithoutTheModulesStateReturnNothing) {
   offline::SetProduct({});
