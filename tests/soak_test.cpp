@@ -1,6 +1,7 @@
 // An hour of game in a minute: memory must not grow.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <thread>
 
@@ -57,6 +58,29 @@ TEST_F(Soak, AnHourOfGameDoesNotGrow) {
   const long late = Settle(host);
   EXPECT_GT(std::stol(host.Run("return total()")), kFrames / 10);
   EXPECT_LE(late, early + early / 200) << "after the first tenth " << early << " bytes, at the end " << late;
+}
+
+// Memory of which Lua knows little: nobody keeps the objects that a script makes in a loop.
+TEST_F(Soak, GarbageThatOwnsMuchIsCollectedInTime) {
+  static long peak;
+  for (const auto& [script, megabytes] : {
+           std::pair{"local image = ('x'):rep(1 << 20) for frame = 1, 400 do local share = velora.ShareInfo.new() "
+                     "share:set_shareBitmap(image) velora.zvShare(share) measure() end",
+                     64},
+           {"for i = 1, 300000 do velora.OrderInfo.new('gold') if i % 100 == 0 then measure() end end", 80},
+       }) {
+    Host host;
+    lua_register(host.L, "measure", [](lua_State* L) {
+      UpdateLuaVelora(L);
+      offline::TakeCalls();
+      peak = std::max(peak, memory::BytesInUse());
+      return 0;
+    });
+    peak = 0;
+    const long before = memory::BytesInUse();
+    EXPECT_EQ(host.Run(script), "");
+    EXPECT_LE((peak - before) >> 20, megabytes) << script;
+  }
 }
 
 }  // namespace
