@@ -1,7 +1,8 @@
 // The module's three entry points. Call each on the thread that owns the Lua state, with its main state, not a
-// coroutine; each leaves the Lua stack as it found it. They have no error result. No C++ exception escapes; out of
-// memory and SDK exceptions become Lua errors, and an error of a `__newindex` on the globals table leaves
-// InitLuaVelora.
+// coroutine; each leaves the Lua stack as it found it. They have no error result. No C++ exception escapes. Lua errors
+// do, so call them in protected mode: memory that runs out, a full Lua stack, too many nested C calls, hooks that
+// raise, exceptions of the SDK (`RegisterChannel`, `SwapEvents`), in InitLuaVelora an error of a `__newindex` on the
+// globals table, and in DeinitLuaVelora without InitLuaVelora an error of a finalizer. docs/embedding.md has the list.
 #pragma once
 
 struct lua_State;

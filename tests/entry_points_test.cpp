@@ -90,18 +90,22 @@ TEST_F(EntryPoints, DeinitEmptiesTheSlotsAndNothingElse) {
   EXPECT_TRUE(offline::TakeLog().empty());
 }
 
-// Nothing is made, so no finaliser runs.
+// Nothing is made after Init, so no finaliser runs.
 TEST_F(EntryPoints, DeinitRaisesNoErrorOfAFinaliser) {
-  host.Run(
-      "collectgarbage('stop') collectgarbage('setpause', 0) collectgarbage('setstepmul', 1000000) "
-      "setmetatable({}, {__gc = function() error('from the grave') end})");
-  lua_pushcfunction(host.L, [](lua_State* L) {
-    lua_gc(L, LUA_GCRESTART, 0);
-    DeinitLuaVelora(L);
-    lua_gc(L, LUA_GCSTOP, 0);
-    return 0;
-  });
-  EXPECT_EQ(lua_pcall(host.L, 0, 0, 0), LUA_OK);
+  for (const bool initialise : {true, false}) {
+    host.Open(initialise);
+    host.Run(
+        "collectgarbage('stop') collectgarbage('setpause', 0) collectgarbage('setstepmul', 1000000) "
+        "setmetatable({}, {__gc = function() error('from the grave') end})");
+    lua_pushcfunction(host.L, [](lua_State* L) {
+      lua_gc(L, LUA_GCRESTART, 0);
+      DeinitLuaVelora(L);
+      lua_gc(L, LUA_GCSTOP, 0);
+      return 0;
+    });
+    EXPECT_EQ(lua_pcall(host.L, 0, 0, 0), initialise ? LUA_OK : LUA_ERRGCMM);
+    lua_settop(host.L, 0);
+  }
 }
 
 // enter(entry, full, hooked) calls the entry point, with a full Lua stack or under a hook that raises, if asked to.
