@@ -7,19 +7,19 @@
 #include "platform/const_prop.h"
 
 namespace luavelora {
-namespace {
 
-const std::string& LuaValue(const std::string& text) { return text; }
+static const std::string& LuaValue(const std::string& text) { return text; }
 
-lua_Integer LuaValue(std::int32_t value) { return value; }
+static lua_Integer LuaValue(std::int32_t value) { return value; }
 
-// Truncates toward zero; values outside 32 bits are clamped, and NaN becomes 0.
 lua_Integer LuaValue(float value) {
   constexpr float kLimit = 2147483648.0f;
   if (value >= kLimit) return std::numeric_limits<std::int32_t>::max();
   if (value < -kLimit) return std::numeric_limits<std::int32_t>::min();
   return value == value ? static_cast<std::int32_t>(value) : 0;
 }
+
+namespace {
 
 template <class Kind>
 void Set(lua_State* L, const char* name, const void* value) {

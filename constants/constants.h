@@ -1,9 +1,13 @@
 // The SDK's named constants and the module's own codes.
 #pragma once
 
-struct lua_State;
+#include <lua.hpp>
 
 namespace luavelora {
+
+// Returns what scripts see of a float constant: truncated toward zero; values outside 32 bits are clamped, and NaN is
+// 0.
+lua_Integer LuaValue(float value);
 
 inline constexpr int kConstants = 0
 #define VELORA_CONSTANT(name, kind) +1

@@ -1,8 +1,11 @@
 // The three entry points, the shape of the table `velora`, and the six binding helpers.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <map>
 
+#include "binding/set_constant.h"
+#include "constants/constants.h"
 #include "platform/binding_helpers.h"
 #include "platform/const_prop.h"
 #include "platform/query_rank_info.h"
@@ -67,18 +70,34 @@ TEST_F(EntryPoints, InitPublishesWhatTheRowFilesName) {
 }
 
 TEST_F(EntryPoints, ConstantsHoldFixedValues) {
+  const std::pair<float, lua_Integer> floats[] = {
+      {-2.75f, -2}, {9e9f, INT32_MAX}, {2147483648.0f, INT32_MAX}, {-9e9f, INT32_MIN}, {NAN, 0}};
+  for (const auto& [value, shown] : floats) EXPECT_EQ(luavelora::LuaValue(value), shown) << value;
+  lua_getglobal(host.L, "velora");
+  luavelora::SetConstant(host.L, "CUT", std::string("a\0b", 3));
+  lua_pop(host.L, 1);
   EXPECT_EQ(host.Run("return velora.AUTH_UNLOGIN, velora.C_MAX_PRICE, velora.PAD_KEYCODE_RIGHT_STICK, "
                      "velora.LOGIN_DONE_VELORA_BIND_FAIL, velora.PAD_ACTION_PRESSURE, velora.FINISH_INIT_MISSED, "
                      "velora.CODE_SCANNER_PERMISSIONS_DENY, velora.ORDER_S_SDK_CHANNEL_IN_BLACKLIST, "
-                     "velora.PRODUCT_TYPE_PROMOCODE"),
-            "-1, 9999, 201, -130, -1, 3, 4, 430, 4");
+                     "velora.PRODUCT_TYPE_PROMOCODE, velora.CUT"),
+            "-1, 9999, 201, -130, -1, 3, 4, 430, 4, \"a\"");
 }
 
 TEST_F(EntryPoints, DeinitEmptiesTheSlotsAndNothingElse) {
+  memory::FailAfter(0);
+  DeinitLuaVelora(host.L);
+  EXPECT_FALSE(memory::Restore());
   host.Run("for k, v in pairs(velora) do if k:find('^setOn') then v(print) end end order = velora.OrderInfo.new(1)");
   EXPECT_EQ(host.Run("return velora.getOnLoginDone() == print, velora.getOnDownloadFinish2() == print"), "true, true");
+  // Without any memory: an object cannot be made, and nothing else needs to be.
+  offline::Post(MakeEvent(17, true));
+  lua_pushcfunction(host.L, [](lua_State* L) { return (UpdateLuaVelora(L), 0); });
+  memory::FailAfter(0);
+  lua_pcall(host.L, 0, 0, 0);
   DeinitLuaVelora(host.L);
-  EXPECT_EQ(lua_gettop(host.L), 0);
+  EXPECT_TRUE(memory::Restore());
+  EXPECT_STREQ(lua_tostring(host.L, -1), "not enough memory");
+  EXPECT_EQ(lua_gettop(host.L), 1);
   EXPECT_EQ(host.Run("for k, v in pairs(velora) do if k:find('^getOn') and select('#', v()) > 0 then return k end end"),
             "");
   EXPECT_EQ(host.Run("velora.setOnLoginDone(function(code) got = code end) return order:get_productId()"), "\"1\"");
@@ -160,7 +179,7 @@ TEST_F(EntryPoints, FunctionsWithoutTheModulesStateReturnNothing) {
                      "for k, v in pairs(registry) do if type(k) == type(v) and type(k) == 'userdata' then "
                      "key, state = k, v end end registry[key] = nil "
                      "local found = {velora.OrderInfo.getProductList(), velora.zvGetCheckedOrders(), "
-                     "velora.OrderInfo.new('x'), velora.download.setSyncDownloadHandler{onInited = print, "
+                     "velora.download.setSyncDownloadHandler{onInited = print, "
                      "onProgress = print, onFinish = print}, velora.download.getSyncDownloadHandler()} "
                      "registry[key] = state return found, velora.OrderInfo.new('x'):get_productId()"),
             "{}, \"x\"");
@@ -228,7 +247,6 @@ TEST_F(EntryPoints, HelpersKeepTheirContract) {
   luaL_loadstring(L, "return setmetatable({1, 2, 3}, {__len = function() return 7 end})");
   lua_call(L, 0, 1);
   EXPECT_EQ(GetLuaTableLen(L), 3);
-  lua_settop(L, 0);
 }
 
 // A userdata of somebody else's class under one of the module's names must not be read as an object.
