@@ -12,9 +12,9 @@ function haunt(action)
 end
 
 -- Calls every function of the module in many ways, as call(k, f, ...), each time with three new objects; k counts from
--- 0 while `call` returns true.
+-- 0 while `call` returns true. No float comes twice, so that its conversion to a string allocates.
 local function callAll(call)
-  local o, s, p = {}, {}, {}
+  local o, s, p, fresh = {}, {}, {}, 0
   local function try(f, ...)
     local k = 0
     repeat
@@ -22,7 +22,11 @@ local function callAll(call)
       velora.OrderInfo.regProduct(product) product:set_sdkPids{a = "b"}
       share:set_toUserList{"a"} share:set_textMsg{k = "v"}
       local objects, arguments = {[o] = order, [s] = share, [p] = product}, table.pack(...)
-      for i = 1, arguments.n do arguments[i] = objects[arguments[i]] or arguments[i] end
+      fresh = fresh + 1
+      for i = 1, arguments.n do
+        local v = arguments[i]
+        arguments[i] = objects[v] or math.type(v) == "float" and v + fresh or v
+      end
       local again = call(k, f, table.unpack(arguments, 1, arguments.n))
       k = k + 1
     until not again
@@ -71,10 +75,13 @@ function callWhatFails(failure, text)
     assert(not failed or not ok and message:find(text, 1, true), message)
     return failed
   end)
-  for k = 0, 2 do
+  local download, handler = velora.download, {onInited = noop, onProgress = noop, onFinish = noop}
+  for k = 0, 2 do -- until the old handler is removed, it stays
+    download.setSyncDownloadHandler(handler)
     deed(failure, k)
-    assert(not pcall(velora.download.setSyncDownloadHandler, {onInited = noop, onProgress = noop, onFinish = noop}))
-    assert(deed(0) and velora.download.getSyncDownloadHandler() == nil)
+    assert(not pcall(download.setSyncDownloadHandler, {onInited = print, onProgress = print, onFinish = print}))
+    local kept = download.getSyncDownloadHandler()
+    assert(deed(0) and (kept and kept.onInited) == (k < 2 and noop or nil))
   end
 end
 
@@ -97,10 +104,12 @@ function callWhatCallsBack(callScript)
     return called
   end)
   product = velora.ProductInfo.new()
-  product:set_productName("outer")
+  deed(callScript, 2) -- when the handler is there
   velora.download.setSyncDownloadHandler{onInited = noop, onFinish = noop, onProgress = function()
     product:set_productName("inner")
   end}
+  local early = product:get_productName()
+  product:set_productName("outer")
   deed(callScript)
-  return tostring(product):find("outer") ~= nil, deed(0), product:get_productName()
+  return early, tostring(product):find("outer") ~= nil, deed(0), product:get_productName()
 end
