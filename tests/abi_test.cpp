@@ -105,9 +105,19 @@ TEST_F(Abi, TheDownloadHandlerHasThreeSlots) {
             "{[1]=\"inited\"}, {[1]=\"progress\", [2]=\"50\"}, {[1]=\"finish\", [2]=\"done\", [3]=\"a\\0b\"}");
 }
 
-// A share hands the SDK a record that holds the caches, each in its own field.
+// A share hands the SDK a record that holds the caches, each in its own field, written in the order of the fields.
 TEST_F(Abi, SharingWritesTheCachesIntoTheRecord) {
   Host host;
+  static std::string operations;
+  offline::SetCallHook([](const char* operation) { operations += std::string(operation) + ' '; });
+  host.Run("velora.zvCheckArgs(velora.ShareInfo.new())");
+  offline::SetCallHook(nullptr);
+  std::string expected = "ShareInfo.New ";
+  for (const std::string access : {"get_", "set_"})
+    for (const char* name : {"aLinkParams", "altTextMsg", "iLinkParams", "linkParams", "linkTextMsg", "subTextMsg",
+                             "textMsg", "toUserList"})
+      expected += "ShareInfo." + access + name + ' ';
+  EXPECT_EQ(operations, expected + "zvCheckArgs ");
   for (const char* flush : {"velora.zvShare", "velora.zvCheckArgs", "tostring"}) {
     host.Run(R"(
       share = velora.ShareInfo.new() share:set_toUserList{'a'}
