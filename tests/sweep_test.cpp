@@ -58,6 +58,9 @@ bool RunOnce(const Scenario& scenario, long allowed) {
   lua_register(L, "report", Report);
   lua_register(L, "post", Post);
   for (const char* file : {"objects.lua", "sweep.lua"}) EXPECT_EQ(host.RunFile(file), "");
+  offline::SetCheckedOrders({offline::MakeOrder({})});
+  for (const char* query : {"getLastShareMessage", "OrderInfo.obj2Json"})
+    offline::SetAnswer(query, std::string(300, 'x'));
   EXPECT_EQ(host.Run(scenario.prepare), "");
   lua_getglobal(L, scenario.run);
   lua_pushcfunction(L, [](lua_State* state) {
