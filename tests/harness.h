@@ -51,9 +51,6 @@ class Host {
   // Runs one frame and checks that the stack height is unchanged. "" or the text of a Lua error that left it.
   std::string Frame();
 
-  // Runs frames until the Lua expression is true; fails the test after two seconds.
-  void FramesUntil(const std::string& expression);
-
   // Closes the state before the host goes, and opens another.
   void Close();
   void Open(bool initialise = true);
