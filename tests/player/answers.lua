@@ -1,7 +1,7 @@
 -- The effects of offline.answer on events and on getters of records, and the names that it accepts.
 local function text(...)
   local parts = table.pack(...)
-  for i = 1, parts.n do parts[i] = type(parts[i]) == "table" and "#" .. #parts[i] or tostring(parts[i]) end
+  for i = 1, parts.n do parts[i] = tostring(type(parts[i]) == "table" and parts[i][1] or parts[i]) end
   return table.concat(parts, ", ")
 end
 
@@ -32,12 +32,12 @@ end
 offline.answer("extendFunc", false)
 velora.download.extendFunc("nothing")
 offline.answer("extendFunc", nil)
-velora.zvOpenManager()
-velora.zvOpenPauseView()
+velora.zvOpenManager() velora.zvOpenPauseView()
 velora.zvCloseWebView()
 velora.zvCloseFlash()
 velora.download.init()
 velora.download.extendFunc("all")
+velora.zvQueryFriendList() velora.zvQuerySkuDetails("inapp", {"lamp"})
 velora.zvLogout()
 
 -- A getter returns a number or a boolean in the field's type. Any other answer, or none, keeps the field's value.

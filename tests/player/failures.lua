@@ -24,7 +24,8 @@ end
 local order, share, ranks = velora.OrderInfo.new("lamp"), velora.ShareInfo.new(), velora.QueryRankInfo.new()
 local rows = {
   {"zvInit", false}, {"zvInit", velora.FINISH_INIT_NEED_UPDATE_PACKAGE}, {"zvLogin", false},
-  {"zvLogin", velora.LOGIN_DONE_NET_TIME_OUT}, {"zvLogout", velora.LOGOUT_DONE_NOLOGIN}, {"zvSwitchAccount", false},
+  {"zvLogin", velora.LOGIN_DONE_NET_TIME_OUT}, {"zvSwitchAccount", false},
+  {"zvLogin", 0}, {"zvLogout", velora.LOGOUT_DONE_NOLOGIN},
   {"zvGuestBind", false}, {"zvOpenExitView", false}, {"zvQuerySkuDetails", false, "inapp", {"lamp"}},
   {"zvConsume", false, order}, {"zvCheckOrder", false, velora.OrderInfo.new("oil")},
   {"zvCheckOrder", velora.ORDER_S_SDK_CHECK_CANCEL, velora.OrderInfo.new("oil")}, {"zvShare", false, share},

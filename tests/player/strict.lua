@@ -3,7 +3,7 @@ local v, order, share = velora, velora.OrderInfo.new("gold.60"), velora.ShareInf
 
 -- The format of arguments.
 v.zvUpdateRank("speed", {})
-v.setPropInt("a \"b\"\\\n\1", 5.0)
+v.setPropInt("a \"b\"\\\n\1 100% s", 5.0)
 v.setPropInt(("long"):rep(100), 0.5, 1 << 62, -1e300, true, nil, print, io.stdout, share)
 v.setPropInt(("ö"):rep(50), coroutine.create(print))
 

@@ -1,5 +1,5 @@
 -- Played with --trace: the format of strings, containers and records, and the order of calls and events.
-velora.getPropStr("quote \" back \\ line \n bell \a zero \0 end")
+velora.getPropStr("quote \" back \\ line \n bell \a 100% s zero \0 end")
 velora.setPropInt("LEVEL", 5.0) -- refused: no line
 velora.setCmdLineParameter()
 velora.zvDeleteInviters{ "anna", 7, {}, "ben" }
@@ -30,7 +30,7 @@ velora.setOnOrderCheckDone(function()
   velora.setOnOrderCheckDone(none)
   for _, event in ipairs{ { "LoginDone", -1 }, { "ShareFinished", true }, { "LoginDone", 5 },
       { "OrderCheckDone", order }, { "OrderCosumeDone" }, { "QueryFriendListFinished", { {}, false } },
-      { "ControllerLeftStick", 0.5, 2 }, { 60 }, { "QueryInviteFriendListFinished", { "anna", "7" } },
+      { "ControllerLeftStick", 0.5, 2 }, { 60 }, { "QueryInviteFriendListFinished", { "anna", "7% s" } },
       { "DownloadFinish2", "a\"b", "a\0b" }, { "DownloadInited" } } do
     offline.post(table.unpack(event))
   end

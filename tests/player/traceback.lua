@@ -5,4 +5,4 @@ local function outer(text)
   print("not reached")
 end
 player.quit()
-outer("failed")
+outer("failed: 100% s")
