@@ -116,7 +116,10 @@ TEST_F(Hostile, FinalisersThatRaiseWhileThePumpBuildsArguments) {
       "(collectgarbage('isrunning') and 1 or 0) end) end end "
       "haunt(function() error('from the grave', 0) end)");
   constexpr int kEvents = 600;
-  for (int i = 0; i < kEvents; ++i) offline::Post(MakeEvent(i % luavelora::kEventTypes, true));
+  for (int i = 1; i < kEvents; ++i) offline::Post(MakeEvent(i % luavelora::kEventTypes, true));
+  auto list = std::make_shared<AccountListEvent>(41);
+  list->accounts.assign(1000, offline::MakeAccount({}));  // so long that the collector would finish cycles each time
+  offline::Post(std::move(list));
   EXPECT_EQ(host.Frame(), "");
   StopHaunting();
   const auto lines = offline::TakeLog();
