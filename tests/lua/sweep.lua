@@ -72,6 +72,7 @@ function overflow() xpcall(nest, report) end
 -- Nests nearly as deep, so that memory runs out near the limit only. The collector would free what that leaves.
 function makeRoom()
   collectgarbage("stop")
+  keepsStopped = true
   local depth = 0
   local function descend()
     depth = depth + 1
