@@ -1,5 +1,6 @@
-// The one boundary between Lua and C++. A Lua error is a longjmp or a C++ exception, depending on how the host built
-// Lua. So every function that Lua calls is an Entry around a body, and the body returns an Outcome instead of raising.
+// The boundary between Lua and C++. Every function that Lua calls is an Entry around a body, and the body returns an
+// Outcome instead of raising an error. Depending on how the host built Lua, a Lua error is a C++ exception or a
+// longjmp, which runs no destructors.
 #pragma once
 
 #include <cstdio>
@@ -9,18 +10,20 @@
 
 namespace luavelora {
 
-// What a body returns: how many results are on the stack, or which error to raise. Trivially destructible, so that the
-// boundary may raise past it.
+// What a body returns: how many results are on the stack, or which error to raise. Trivially destructible, so that it
+// may be alive while the error is raised.
 class [[nodiscard]] Outcome {
  public:
+  // Returns a success with the `count` values on top of the stack as results.
   static Outcome Results(int count) { return Outcome(count, nullptr); }
-  // An error message that outlives the call, raised with the calling script's position in front.
+  // Returns an error with the message `text` after the calling script's position. `text` must outlive the call.
   static Outcome Error(const char* text) { return Outcome(-1, text); }
-  // The error value on top of the stack, raised as it is.
+  // Returns an error whose value is on top of the stack and is raised unchanged.
   static Outcome Rethrow() { return Outcome(-1, nullptr); }
 
   bool Failed() const { return results_ < 0; }
   int results() const { return results_; }
+  // Returns the message of Error, null for Rethrow.
   const char* text() const { return text_; }
 
  private:
@@ -30,10 +33,10 @@ class [[nodiscard]] Outcome {
   const char* text_;
 };
 
-// The outcome for a bad argument: no results and no error.
+// Returns the outcome for a bad argument: no results and no error.
 inline Outcome Refusal() { return Outcome::Results(0); }
 
-// A copy of an exception's message, so that nothing is raised while the exception is alive.
+// Holds a copy of an exception's message, so that the exception is destroyed before the Lua error is raised.
 class ErrorText {
  public:
   // Returns the message of the Lua error for `exception`; valid while this object lives.
@@ -56,8 +59,8 @@ class ErrorText {
   std::terminate();  // not reached: both raise
 }
 
-// Runs `body` and turns the C++ exceptions that leave it into an outcome. Only std::exception is caught, so a Lua error
-// that is itself a C++ exception passes through.
+// Runs `body(L)` and returns its outcome. If a std::exception leaves it, returns an error with the exception's message,
+// which `text` holds. Catches nothing else, so that a Lua error that is a C++ exception passes through.
 template <class Body>
 Outcome Guarded(lua_State* L, ErrorText& text, Body&& body) {
   try {
@@ -67,25 +70,26 @@ Outcome Guarded(lua_State* L, ErrorText& text, Body&& body) {
   }
 }
 
-// The lua_CFunction around a body. Whatever the body owned is gone when this raises.
+// The lua_CFunction around a body. Raises the body's error after everything that the body owned is destroyed.
 template <Outcome (*body)(lua_State*)>
 int Entry(lua_State* L) {
   ErrorText text;
-  const Outcome outcome = Guarded(L, text, [](lua_State* state) { return body(state); });  // a lambda is inlined
+  const Outcome outcome = Guarded(L, text, [](lua_State* state) { return body(state); });  // a lambda can be inlined
   if (outcome.Failed()) [[unlikely]]
     Raise(L, outcome);
   return outcome.results();
 }
 
-// The row of a function in a registration list.
+// Returns the row of a function in a registration list.
 template <Outcome (*body)(lua_State*)>
 constexpr luaL_Reg Row(const char* name) {
   return {name, Entry<body>};
 }
 
-// Runs `body(L)`, which leaves `results` values on the stack, in protected mode, so that the caller's owning objects
-// may stay alive. Returns the status of lua_pcall; on failure the error value is on top. The body must not own anything
-// across a Lua call that can raise. Needs two free stack slots; setting up the call cannot raise.
+// Runs `body(L)` in protected mode and returns the status of lua_pcall. On success, the `results` values that the body
+// pushed are on top of the stack; on failure, the error value is. The caller may own objects during the call, but the
+// body must not own anything across a Lua call that can raise. Needs two free stack slots; the start of the call cannot
+// raise.
 template <class Body>
 int Protected(lua_State* L, int results, Body& body) {
   lua_pushcfunction(L, [](lua_State* state) {

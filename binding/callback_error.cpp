@@ -1,4 +1,3 @@
-// Logs errors raised by callbacks.
 #include "binding/callback_error.h"
 
 #include <cstdio>

@@ -1,12 +1,12 @@
-// The log line of an error that a script's callback raised.
+// Logs the errors that a script's callbacks raise.
 #pragma once
 
 #include <lua.hpp>
 
 namespace luavelora {
 
-// Logs the error value on top of the stack, which stays there. Allocates nothing in Lua; a non-string error value
-// is described by its type. If the log library throws, the line is lost.
+// Logs the error value on top of the stack and leaves it there. A value that is neither a string nor a number is
+// described by its type. Allocates nothing in Lua. If the log library throws, the line is lost.
 void LogCallbackError(lua_State* L);
 
 // The same for an error message.

@@ -1,4 +1,3 @@
-// Lists and maps between Lua tables and the SDK's containers.
 #include "binding/conversions.h"
 
 #include <algorithm>
@@ -22,7 +21,7 @@ const char* ValueText::FormatNumber(lua_State* L, int index) {
   }
   lua_number2str(number_, sizeof number_, lua_tonumber(L, index));
   char* end = number_ + std::strspn(number_, "-0123456789");
-  if (*end == '\0') {  // looks like an integer: Lua marks it as a float
+  if (*end == '\0') {  // it looks like an integer: mark it as a float, as Lua does
     end[0] = lua_getlocaledecpoint();
     end[1] = '0';
     end[2] = '\0';
@@ -39,7 +38,7 @@ const char* ClaimedLength(lua_State* L, int index, std::int32_t& length) {
 }
 
 StringList ReadStringList(lua_State* L, int index, std::int32_t length) {
-  constexpr std::int32_t kKept = 8;  // elements are popped so many at a time
+  constexpr std::int32_t kKept = 8;  // the number of elements that are popped together
   const int top = lua_gettop(L);
   StringList list;
   list.reserve(std::min(static_cast<std::size_t>(length), lua_rawlen(L, index)));
@@ -83,14 +82,14 @@ std::vector<std::int32_t> ReadIntList(lua_State* L, int index, std::int32_t leng
 
 namespace {
 
-// Calls `entry(key)` for each entry of the table at `index` whose key is a string or number, with the value on top. A
-// number stays one on the stack, so that the traversal can go on.
-template <class Entry>
-void ForEachKey(lua_State* L, int index, Entry entry) {
+// Calls `visit(key)` for each entry of the table at `index` whose key is a string or number, with the value on top of
+// the stack. Does not convert number keys on the stack, which would confuse lua_next.
+template <class Visit>
+void ForEachKey(lua_State* L, int index, Visit visit) {
   ValueText key;
   lua_pushnil(L);
   while (lua_next(L, index) != 0) {
-    if (const char* text = key.Get(L, -2)) entry(text);
+    if (const char* text = key.Get(L, -2)) visit(text);
     lua_pop(L, 1);
   }
 }
@@ -101,7 +100,7 @@ bool HasZeroByte(const char* eightBytes) {
   return ((word - 0x0101010101010101U) & ~word & 0x8080808080808080U) != 0;
 }
 
-// std::strlen(text.c_str()). Lists are mostly of strings of 8 to 16 bytes, of which two words tell without a call.
+// Returns std::strlen(text.c_str()). Most strings in lists have 8 to 16 bytes; two words cover these without a call.
 std::size_t LengthToZeroByte(const std::string& text) {
   const std::size_t size = text.size();
   if (size >= 8 && size <= 16 && !HasZeroByte(text.data()) && !HasZeroByte(text.data() + size - 8)) return size;
@@ -143,7 +142,7 @@ IntMap ReadMap(lua_State* L, int index) {
 void PushContainer(lua_State* L, const StringList& list) {
   lua_createtable(L, TableSize(list.size()), 0);
   for (std::size_t k = 0; k < list.size(); ++k) {
-    // Not lua_pushstring, whose cache by address has no room for a list.
+    // Not lua_pushstring: a list does not fit in its cache, so that looking there would only cost time.
     lua_pushlstring(L, list[k].data(), LengthToZeroByte(list[k]));
     lua_rawseti(L, -2, static_cast<lua_Integer>(k + 1));
   }

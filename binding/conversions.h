@@ -1,6 +1,6 @@
-// Conversions between Lua values and SDK values. Unless its comment says otherwise, a function that reads runs no Lua
-// operation that can raise or run script code, so that it may own a container. Containers are filled aside and moved
-// into place when complete.
+// Conversions between Lua values and SDK values. Unless its comment says otherwise, a function that reads a Lua value
+// runs no Lua operation that can raise or run script code, so that it may own a container. It fills a new container and
+// moves it into place when it is complete.
 #pragma once
 
 #include <algorithm>
@@ -18,18 +18,18 @@
 
 namespace luavelora {
 
-// The low 32 bits, as the SDK's ints take them.
+// Returns the low 32 bits: an integer outside the range of the SDK's ints wraps around.
 inline std::int32_t Low32(lua_Integer value) { return static_cast<std::int32_t>(static_cast<std::uint32_t>(value)); }
 
-// Returns a string or number argument as a string up to its first zero byte, or null for anything else. A number is
-// replaced by its string in its stack slot, which allocates: may raise and, through a finalizer, run script code.
+// Returns the argument as a C string, or null if it is neither a string nor a number. A number is converted to a string
+// in its stack slot, which allocates: may raise and, through a finalizer, run script code.
 inline const char* TextArgument(lua_State* L, int index) { return lua_tolstring(L, index, nullptr); }
 
-// The string of a value as lua_tolstring returns it, but without allocating in Lua: numbers are formatted here.
+// Converts a value to a C string as lua_tolstring does, but allocates nothing in Lua: it formats numbers itself.
 class ValueText {
  public:
-  // Returns null if the value is neither a string nor a number. Valid while the value is on the stack and this object
-  // lives.
+  // Returns the string, or null if the value is neither a string nor a number. Valid until the next call or until the
+  // value leaves the stack.
   const char* Get(lua_State* L, int index) { return Get(L, index, lua_type(L, index)); }
 
   // The same for a value of a known type.
@@ -40,15 +40,15 @@ class ValueText {
  private:
   const char* FormatNumber(lua_State* L, int index);
 
-  char number_[64];  // Lua's own bound is 50
+  char number_[64];  // Lua uses at most 50
 };
 
 // Upper bound on the length of a list argument.
 inline constexpr std::int32_t kMaxListLength = 1 << 20;
 inline constexpr const char* kListTooLong = "list is longer than 1048576 elements";
 
-// Stores the length of a table, by the length operator, in `length` (0 if negative) and returns null, or returns an
-// error message. May raise and run script code (`__len`).
+// Stores the result of the length operator in `length`, or 0 if it is negative, and returns null. Returns kListTooLong
+// if it is too large. May raise and run script code (`__len`).
 const char* ClaimedLength(lua_State* L, int index, std::int32_t& length);
 
 // Returns the raw elements 1 to `length` of the table at `index` that are strings or numbers, in order.
@@ -66,7 +66,7 @@ std::vector<std::int32_t> ReadIntList(lua_State* L, int index, std::int32_t leng
 template <class Map>
 Map ReadMap(lua_State* L, int index);
 
-// Returns about how many bytes of the heap a container takes.
+// Returns an estimate of the heap bytes that a container owns.
 inline std::size_t HeapBytes(const std::string& text) { return text.size(); }
 inline std::size_t HeapBytes(std::int32_t) { return 0; }
 template <class Value>
@@ -81,17 +81,18 @@ inline std::size_t HeapBytes(const tarn::velora::StringList& list) {
   return bytes;
 }
 
-// Tables are created with their final size, which Lua takes as an int.
+// Returns the size of a container for lua_createtable, at most the largest int.
 inline int TableSize(std::size_t size) {
   return static_cast<int>(std::min<std::size_t>(size, std::numeric_limits<int>::max()));
 }
 
-// Each pushes one new value and may raise and run script code. Strings end at their first zero byte.
+// Pushes a new table with the content of a container. Strings end at their first zero byte. May raise and run script
+// code.
 void PushContainer(lua_State* L, const tarn::velora::StringList& list);
 void PushContainer(lua_State* L, const tarn::velora::StringMap& map);
 void PushContainer(lua_State* L, const tarn::velora::IntMap& map);
 
-// Whether the characters are inside the string object, which then owns no heap memory.
+// Returns whether the characters are inside the string object, which then owns no heap memory.
 inline bool IsSmallString(const std::string& text) {
   const auto* object = reinterpret_cast<const char*>(&text);
   const auto* end = reinterpret_cast<const char*>(&text + 1);
@@ -102,12 +103,13 @@ struct DestroyString {
   void operator()(std::string* text) const { std::destroy_at(text); }
 };
 
-// Returns a string to Lua as the function's single result. `fill(out)` returns whether there is one; if not, there is
-// no result. A string that owns memory is copied aside, or pushed in protected mode; any other is pushed from where it
-// is: lua_pushstring caches by address, so that pushing from the same address again skips the hash.
+// Pushes the string that `fill(out)` stores and returns it as the function's single result. Returns no result if `fill`
+// returns false. lua_pushstring can raise, so a string that owns memory is first copied to a local array or, if it is
+// long, pushed in protected mode. Any other is pushed from where it is: lua_pushstring caches by address, so pushing
+// from the same address again skips the hash.
 template <class Fill>
 Outcome TextResult(lua_State* L, Fill fill) {
-  alignas(std::string) std::byte place[sizeof(std::string)];  // no destructor, so that lua_pushstring may raise past it
+  alignas(std::string) std::byte place[sizeof(std::string)];  // no destructor that an error could skip
   constexpr std::size_t kShort = 256;
   char copy[kShort];
   const char* text = copy;

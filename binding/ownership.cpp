@@ -1,4 +1,3 @@
-// The module's state per Lua state, and its finalizer.
 #include "binding/ownership.h"
 
 #include "binding/boundary.h"
@@ -49,7 +48,8 @@ void OpenModuleState(lua_State* L, ModuleState::AtClose* atClose) {
   new (lua_newuserdata(L, sizeof(ModuleState))) ModuleState(mainState, atClose);
   lua_pushvalue(L, -1);
   lua_rawsetp(L, LUA_REGISTRYINDEX, &stateKey);
-  // The finalizer comes last: nothing can raise any more, so a state that is not registered is never closed.
+  // The finalizer is set last, when nothing can raise any more, so that it never runs for a state that is not
+  // registered.
   lua_insert(L, -2);
   lua_setmetatable(L, -2);
   lua_pop(L, 2);

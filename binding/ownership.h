@@ -1,5 +1,5 @@
-// Who frees what the module's userdata own. Lua does not run every finalizer: it skips one whose call runs out of
-// memory and those of objects created during lua_close. Whatever such userdata own is freed when the state closes.
+// Ownership of the objects behind the module's userdata. Finalizers free them, but Lua skips a finalizer whose call
+// runs out of memory, and those of userdata created during lua_close. What these own is freed when the state closes.
 #pragma once
 
 #include <algorithm>
@@ -13,7 +13,7 @@
 
 namespace luavelora {
 
-// What the module keeps per Lua state, in a userdata that is created first and therefore finalized last.
+// The module's data of one Lua state, in a userdata that is created before the module's others and so finalized last.
 struct ModuleState {
   using AtClose = void(lua_State*, const ModuleState&);
 
@@ -23,26 +23,27 @@ struct ModuleState {
 
   lua_State* const mainState;  // outlives every coroutine
   AtClose* const atClose;      // runs first when the state closes
-  bool closed = false;         // once true, nothing may be owned or registered any more
+  bool closed = false;         // if true, no object may be created and nothing registered
 
   static constexpr int kMaxClasses = 8;
-  int metatables[kMaxClasses];  // of the record classes: their references in the registry
+  int metatables[kMaxClasses];  // registry references of the record classes' metatables
 
-  // Creates an object of the class Object::kClass that is freed by its Release or, failing that, when the state closes.
-  // Returns null if the state is closed, which the constructor may have caused, since it may run script code.
+  // Creates an object in the pool of Object::kClass and returns it. It is freed by its Release or else when the state
+  // closes. Returns null if the state is closed, even if it was the constructor that ran script code that closed it.
   template <class Object, class... Arguments>
   Object* Create(Arguments&&... arguments);
 
+  // Releases all objects.
   void ReleaseAll();
 
-  // Tells Lua's collector of `bytes` of memory that a userdata keeps alive, which it cannot see: without this it would
-  // let garbage grow that looks small. May run a step of the collector, and so may raise and run script code.
+  // Tells Lua's collector that a userdata owns `bytes` of memory outside Lua. The collector does not see them and would
+  // let such garbage accumulate. May run a step of the collector, and so may raise and run script code.
   void Charge(lua_State* L, std::size_t bytes) {
     debt_ += bytes;
     PayDebt(L);
   }
 
-  // As Charge, for the objects that were created since the last call.
+  // As Charge, for the objects that were created since the last step of the collector.
   void PayDebt(lua_State* L) {
     if (debt_ >= kMaxDebt) [[unlikely]]
       RunCollector(L);
@@ -52,8 +53,8 @@ struct ModuleState {
   static constexpr std::size_t kMaxDebt = 16384;
   void RunCollector(lua_State* L);
 
-  // A type's first slabs, some 32,000 small objects, are not charged: so much garbage costs less than its collection.
-  // The SDK's own record is charged with a guess.
+  // The first slabs of a type, about 32,000 small objects, are not charged: collecting so little costs more than
+  // keeping it. kRecordBytes is an estimate of what the SDK's own record takes.
   static constexpr std::size_t kUnchargedSlabs = 512;
   static constexpr std::size_t kRecordBytes = 80;
 
@@ -83,10 +84,10 @@ Object* ModuleState::Create(Arguments&&... arguments) {
   return nullptr;
 }
 
-// Creates the state's ModuleState, once, before the module creates anything else. May raise.
+// Creates the state's ModuleState unless it exists. Call it before the module creates anything else. May raise.
 void OpenModuleState(lua_State* L, ModuleState::AtClose* atClose);
 
-// Returns the state's ModuleState, or null before OpenModuleState. Raises nothing.
+// Returns the state's ModuleState, or null before OpenModuleState. Cannot raise.
 ModuleState* ModuleStateOf(lua_State* L);
 
 }  // namespace luavelora

@@ -1,4 +1,4 @@
-// Storing one constant raw in the table on top of the stack, which stays there. Each may raise.
+// Stores a constant in the table on top of the stack, without metamethods, and leaves the table there. May raise.
 #pragma once
 
 #include <lua.hpp>

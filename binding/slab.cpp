@@ -25,7 +25,6 @@ void Slab::Unlink() {
   if (next_ != nullptr) next_->link_ = link_;
 }
 
-// A slot of a full slab became free, or the last one of any slab.
 void Slab::Settle() {
   const bool isEmpty = taken_ == absent_;
   if (pool_ == nullptr) {

@@ -1,5 +1,5 @@
-// Memory of the objects that userdata own. Objects of one type are in slabs, so that they cost little memory and no
-// list, and all of them are found when the state closes.
+// Memory for the objects that userdata own. Objects of one type are in slabs. These take less memory than a heap block
+// and a list node per object, and are listed, so that all objects are found when the state closes.
 #pragma once
 
 #include <algorithm>
@@ -11,15 +11,15 @@ namespace luavelora {
 
 class Slab;
 
-// An object that a userdata of one Lua state owns, used on the thread of Lua only. While a Pin on it lives it can be
-// released (by a script that calls `__gc`, or by lua_close) but is not freed until the last Pin is gone.
+// An object that a userdata owns. Use it on the thread of the userdata's Lua state only. While a Pin on it is alive it
+// can be released (by a script that calls `__gc`, or by lua_close) but is not freed until the last Pin is gone.
 class Owned {
  public:
   Owned() = default;
   Owned(const Owned&) = delete;
   Owned& operator=(const Owned&) = delete;
 
-  // Frees the object, now or when its last Pin is gone. Runs no Lua.
+  // Frees the object, now or when its last Pin is gone. Does not run Lua code.
   void Release() {
     uses_ |= kReleased;
     FreeIfDone();
@@ -37,7 +37,7 @@ class Owned {
   unsigned slot_ = 0;
   static constexpr unsigned kReleased = 1;
   static constexpr unsigned kPin = 2;
-  unsigned uses_ = 0;  // kPin for each Pin, and kReleased
+  unsigned uses_ = 0;  // kPin times the number of Pins, plus kReleased
 };
 
 // Keeps an object alive while the SDK works with it: the SDK may call back into scripts, which may call `__gc` on the
@@ -76,7 +76,7 @@ class Slab {
   Slab(const Slab&) = delete;
   Slab& operator=(const Slab&) = delete;
 
-  // Takes a free slot of an open slab.
+  // Takes a free slot and returns its number. The slab must be open.
   unsigned TakeSlot() {
     const auto slot = static_cast<unsigned>(std::countr_one(taken_));
     taken_ |= Bit(slot);
@@ -85,14 +85,14 @@ class Slab {
     return slot;
   }
 
-  // From now on `object`, which is in the taken slot, is released when the state closes.
+  // Lets `object`, which is in the taken slot, be released when the state closes.
   void Adopt(Owned& object, unsigned slot) {
     object.slab_ = this;
     object.slot_ = slot;
     adopted_ |= Bit(slot);
   }
 
-  // Frees a slot that holds no object, or none any more.
+  // Frees a slot without an object. May delete the slab.
   void FreeSlot(unsigned slot) {
     const bool wasFull = taken_ == kAll;
     taken_ &= ~Bit(slot);
@@ -100,7 +100,7 @@ class Slab {
       Settle();
   }
 
-  // Destroys an adopted object and frees its slot.
+  // Destroys an adopted object and frees its slot. May delete the slab.
   void Free(Owned& object) {
     const unsigned slot = object.slot_;
     adopted_ &= ~Bit(slot);
@@ -108,8 +108,8 @@ class Slab {
     FreeSlot(slot);
   }
 
-  // Releases all objects. The slab leaves its pool, and is freed with the last object that a Pin or a constructor
-  // keeps.
+  // Takes the slab out of its pool and releases its objects. Deletes the slab, or, if Pins or running constructors
+  // still use slots, lets the last of these delete it.
   void Close();
 
  protected:
@@ -128,14 +128,17 @@ class Slab {
     Unlink();
     LinkTo(list);
   }
+  // Moves the slab to the open ones, or deletes it if it is empty and no longer needed. Called when a full slab gets a
+  // free slot and when a slab becomes empty.
   void Settle();
 
   Slab* next_ = nullptr;
   Slab** link_ = nullptr;  // the pointer that points to this slab
   Pool* pool_;             // null once the state is closed
-  const std::uint64_t absent_;
+  // A bit per slot.
+  const std::uint64_t absent_;  // those beyond the slab's size
   std::uint64_t taken_ = absent_;
-  std::uint64_t adopted_ = 0;
+  std::uint64_t adopted_ = 0;  // those whose object Close releases
   bool isClosing_ = false;
 };
 

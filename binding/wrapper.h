@@ -13,8 +13,9 @@
 
 namespace luavelora {
 
-// How to test, read and construct a parameter of one type. `Read` returns a view, which owns nothing, and null for a
-// string or an object that is not one; `Make` builds the SDK's value from the view.
+// How a Lua argument becomes a parameter of one type. `Test` returns whether the argument may be read. `Read` returns a
+// view of it, which owns nothing; a view that is a pointer is null if the argument is wrong. `Make` returns the SDK's
+// value for a view.
 template <class Type>
 struct Parameter;
 
@@ -58,7 +59,7 @@ struct Parameter<bool> {
   static bool Make(View view) { return view; }
 };
 
-// Pushes an operation's return value. No string, or an empty one, is no result.
+// Pushes what an operation returned and returns it as the single result. Null and the empty string are no result.
 inline Outcome PushResult(lua_State* L, bool value) {
   lua_pushboolean(L, value);
   return Outcome::Results(1);
@@ -73,17 +74,19 @@ inline Outcome PushResult(lua_State* L, const char* text) {
   return Outcome::Results(1);
 }
 
-// Whether a view points into an object, which script code may finalize.
+// Whether a view points to an object, which script code may finalize.
 template <class View>
 inline constexpr bool kIsObject = std::is_pointer_v<View> && !std::is_same_v<View, const char*>;
 
+// Returns whether Read found the argument to be wrong.
 template <class View>
 bool IsMissing(const View& view) {
   if constexpr (std::is_pointer_v<View>) return view == nullptr;
   return false;
 }
 
-// Tests the arguments, reads them, and calls `use(views...)` with the views of all parameters.
+// Tests the arguments, reads them, calls `use(views...)` with the views of all parameters and returns its outcome.
+// Returns a refusal if an argument is wrong.
 template <class... Parameters, class Use>
 Outcome WithArguments(lua_State* L, Use use) {
   static_assert(sizeof...(Parameters) < 2 || !(kIsObject<typename Parameter<Parameters>::View> || ...),
@@ -98,7 +101,7 @@ Outcome WithArguments(lua_State* L, Use use) {
   (std::index_sequence_for<Parameters...>());
 }
 
-// The body for an operation of each shape.
+// Calls an operation with the script's arguments and returns the outcome. There is an overload for each kind of type.
 template <class... Parameters>
 Outcome CallOperation(lua_State* L, void (*operation)(Parameters...)) {
   return WithArguments<Parameters...>(L, [operation](auto... views) {

@@ -33,7 +33,7 @@ void InitUserTypeMetaTable(lua_State* L, const char* name) {
   const int classTable = lua_gettop(L);
   if (luaL_getmetatable(L, name) != LUA_TTABLE) {
     lua_pop(L, 1);
-    lua_createtable(L, 1, 5);  // the owner of the class may keep something at 1
+    lua_createtable(L, 1, 5);  // with room for a value at 1 that the owner of the class may store
     lua_pushstring(L, name);
     lua_setfield(L, -2, "__name");
     lua_pushboolean(L, 0);
@@ -43,7 +43,7 @@ void InitUserTypeMetaTable(lua_State* L, const char* name) {
   CopyFromClass(L, classTable, "__tostring");
   lua_pushvalue(L, classTable);
   lua_setfield(L, -2, "__index");
-  // Registered last: an error on the way here leaves no half-made metatable behind.
+  // Registered last, so that an error above leaves no incomplete metatable in the registry.
   lua_setfield(L, LUA_REGISTRYINDEX, name);
 }
 
