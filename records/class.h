@@ -1,4 +1,4 @@
-// What the record classes have in common: construction, finalization, string forms, registration.
+// What the record classes have in common: construction, finalization, conversion to strings, registration.
 #pragma once
 
 #include <cstddef>
@@ -13,7 +13,7 @@
 
 namespace luavelora {
 
-// The errors of each class's constructor and to-string function.
+// The error messages of a class's constructor and `__tostring`.
 template <class Record>
 struct ClassErrors;
 
@@ -25,9 +25,9 @@ struct ClassErrors;
   };
 #include "platform/records.def"
 
-// Pushes a constructor's new object, whose holder is made from what `produce()` returns: a record, or a reference to
-// one, an empty one being an error. The userdata comes first, so that nothing is owned when Lua may raise.
-// Only for constructors, which have the ModuleState as their upvalue: that takes a tenth of the time of ModuleStateOf.
+// Pushes a new object and returns it as the single result. `produce()` returns its record, or a reference to it; an
+// empty reference is an error. The userdata is created first, so that nothing is owned while Lua may raise.
+// For constructors only: they have the ModuleState as upvalue, which takes a tenth of the time of ModuleStateOf.
 template <class Record, class Produce>
 Outcome NewObject(lua_State* L, Produce produce) {
   auto& state = *static_cast<ModuleState*>(lua_touserdata(L, lua_upvalueindex(1)));
@@ -40,8 +40,8 @@ Outcome NewObject(lua_State* L, Produce produce) {
   return Outcome::Results(1);
 }
 
-// The constructor of a class whose factories are New() and New(string), as the arguments choose. A first argument that
-// is not a string or number is refused.
+// The constructor of a class with the factories New() and New(string): the first is called if there are no arguments.
+// Refuses a first argument that is neither a string nor a number.
 template <class Record>
 Outcome NewWithOptionalString(lua_State* L) {
   if (lua_gettop(L) == 0) return NewObject<Record>(L, [] { return Record::New(); });
@@ -49,7 +49,7 @@ Outcome NewWithOptionalString(lua_State* L) {
   return text == nullptr ? Refusal() : NewObject<Record>(L, [text] { return Record::New(text); });
 }
 
-// `__gc`: detaches the holder from its userdata, so that later calls see a wrong self, and frees it.
+// `__gc`: frees the holder of argument 1 and finalizes the object, so that later calls see a wrong self.
 template <class Record>
 Outcome Collect(lua_State* L) {
   if (auto* holder = SelfAndNoMore<Record>(L)) {
@@ -59,14 +59,14 @@ Outcome Collect(lua_State* L) {
   return Outcome::Results(0);
 }
 
-// The finalizer of the metatable, which scripts cannot reach: Lua passes it the class's userdata and nothing else, and
-// not after the state has closed. So it needs neither the tests of the class table's `__gc` nor the boundary.
+// The finalizer in the metatable. Scripts cannot call it; Lua passes only userdata of the class, and none after the
+// state has closed. So it needs neither the tests of the class table's `__gc` nor the boundary.
 inline int Finalize(lua_State* L) {
   if (Owned* holder = std::exchange(*static_cast<Owned**>(lua_touserdata(L, 1)), nullptr)) holder->Release();
   return 0;
 }
 
-// `__tostring`: `fill(holder, out)` writes the string and reports success.
+// `__tostring`: returns the string that `fill(holder, out)` stores, or an error if that returns false.
 template <class Record, class Fill>
 Outcome ToString(lua_State* L, Fill fill) {
   HolderOf<Record>* holder = Self<Record>(L);
@@ -79,14 +79,14 @@ Outcome ToString(lua_State* L, Fill fill) {
   return filled ? outcome : Outcome::Error(ClassErrors<Record>::kNoString);
 }
 
-// `__tostring` of a class whose record needs no preparation.
+// `__tostring` of a class without cached fields.
 template <class Record>
 Outcome RecordToString(lua_State* L) {
   return ToString<Record>(L, [](HolderOf<Record>& holder, std::string& out) { return holder.record->toString(out); });
 }
 
-// Makes the class table from its constructor, which may be null, and from `rows`, which end with an empty row,
-// registers the class and stores its table in the table on top of the stack. May raise.
+// Registers a class and stores its class table in the table on top of the stack. The class table has the functions of
+// `rows`, which end with an empty row, and `constructor` as `new` unless it is null. May raise.
 template <class Record, std::size_t count>
 void RegisterClass(lua_State* L, const luaL_Reg (&rows)[count], lua_CFunction constructor) {
   using Class = tarn::velora::ClassNames<Record>;
@@ -102,7 +102,7 @@ void RegisterClass(lua_State* L, const luaL_Reg (&rows)[count], lua_CFunction co
   PushMetatable<Record>(L, state);
   const bool isOurs = lua_rawequal(L, -1, -2) != 0;
   lua_pop(L, 2);
-  if (!isOurs) RemoveUserTypeMetaTable(L, Class::kMetatable);  // somebody else's: its userdata would be read as objects
+  if (!isOurs) RemoveUserTypeMetaTable(L, Class::kMetatable);  // another module's, whose userdata are no objects
   InitUserTypeMetaTable(L, Class::kMetatable);
   luaL_getmetatable(L, Class::kMetatable);
   lua_pushcfunction(L, Finalize);

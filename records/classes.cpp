@@ -1,4 +1,3 @@
-// What happens to the classes when a state closes.
 #include "records/classes.h"
 
 #include "binding/helpers/metatables.h"
@@ -7,8 +6,8 @@
 namespace luavelora {
 namespace {
 
-// Its objects are a wrong self from now on, and no new ones are made. Without a finalizer, those that Lua collects
-// later are not asked for their holders, which are gone.
+// Makes the class's objects a wrong self and lets no new ones be created. Removes the finalizer too, since the holders
+// of objects that Lua collects later no longer exist.
 template <class Record>
 void Unregister(lua_State* L, const ModuleState& state) {
   if (PushMetatable<Record>(L, state)) {

@@ -1,5 +1,5 @@
-// The registration of the record classes. Each stores its class table, then the constants that belong to it, in the
-// module table, which is on top of the stack and stays there. May raise.
+// The record classes. Each Register function stores its class table and the constants of the class in the module table,
+// which is on top of the stack and stays there. They may raise.
 #pragma once
 
 struct lua_State;

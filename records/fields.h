@@ -1,5 +1,5 @@
-// The accessor families. A family is a struct with a getter and a setter template over what it reads and writes: the
-// record's virtual operation or, of a plain record, its data member. A field is then one row.
+// The accessor families. A family is a struct with the templates Get and Set. Their parameter is what they read or
+// write: a virtual operation of the record or, if it is a plain struct, a data member. A field is then one row.
 #pragma once
 
 #include <memory>
@@ -16,18 +16,18 @@ struct MemberOf<Type Record::*> {
   using Class = Record;
 };
 
-// The record, or holder, whose member `member` points to.
+// The class whose member `member` points to.
 template <auto member>
 using ClassOfMember = typename MemberOf<decltype(member)>::Class;
 
-// Calls `operation` on the holder's record and keeps it alive during the call.
+// Calls `operation` on the holder's record and returns its result. Keeps the holder alive during the call.
 template <auto operation, class... Arguments>
 auto CallOnRecord(HolderOf<ClassOfMember<operation>>& holder, Arguments&&... arguments) {
   const Pin pin(holder);
   return ((*holder.record).*operation)(std::forward<Arguments>(arguments)...);
 }
 
-// Reads a field that has a value for every record.
+// Returns the value of a field that always has one.
 template <auto field>
 auto Load(HolderOf<ClassOfMember<field>>& holder) {
   if constexpr (std::is_member_object_pointer_v<decltype(field)>)
@@ -50,6 +50,7 @@ bool Load(HolderOf<ClassOfMember<field>>& holder, Out& out) {
   }
 }
 
+// Sets the field to `value`.
 template <auto field, class Value>
 void Store(HolderOf<ClassOfMember<field>>& holder, const Value& value) {
   if constexpr (std::is_member_object_pointer_v<decltype(field)>)
@@ -58,7 +59,7 @@ void Store(HolderOf<ClassOfMember<field>>& holder, const Value& value) {
     CallOnRecord<field>(holder, value);
 }
 
-// Memory of less than this is not worth telling the collector about.
+// The collector is not told about less memory than this.
 inline constexpr std::size_t kMuch = 1024;
 
 // Charges the Lua state for a field's new content. May raise and run script code.
@@ -69,7 +70,7 @@ inline void ChargeField(lua_State* L, std::size_t bytes) {
 
 namespace family {
 
-// A number or boolean: `push` pushes it, `read` reads argument 2, 0 or false for any other type.
+// A number or boolean, pushed by `push`. `read` returns argument 2, or 0 or false if it has another type.
 template <auto push, auto read>
 struct Scalar {
   template <auto field>
@@ -113,13 +114,13 @@ struct String {
     return TextResult(L, [holder](std::string& out) { return Load<field>(*holder, out); });
   }
 
-  // Stores the empty string for a value that is neither a string nor a number.
+  // Stores the empty string if the value is neither a string nor a number.
   template <auto field>
   static Outcome Set(lua_State* L) {
     std::size_t size = 0;
     const char* text = lua_tolstring(L, 2, &size);
     ChargeField(L, size);
-    auto* holder = SelfAndNoMore<ClassOfMember<field>>(L);  // now, since what is above may have run script code
+    auto* holder = SelfAndNoMore<ClassOfMember<field>>(L);  // only now: the lines above may run script code
     if (holder != nullptr) Store<field>(*holder, std::string(text == nullptr ? "" : text));
     return Outcome::Results(0);
   }
@@ -141,7 +142,7 @@ struct FilledMap {
 using StringMap = FilledMap<tarn::velora::StringMap>;
 using IntMap = FilledMap<tarn::velora::IntMap>;
 
-// The same with a setter, which raises an error for anything but a table.
+// The same with a setter, which raises an error if the value is not a table.
 struct RecordMap : StringMap {
   template <auto field>
   static Outcome Set(lua_State* L) {
@@ -159,7 +160,8 @@ struct RecordMap : StringMap {
   }
 };
 
-// A list whose elements must all be strings or numbers; anything but a table is refused.
+// A list. The setter refuses a value that is not a table, and raises an error if an element is neither a string nor a
+// number.
 struct StrictList {
   template <auto field>
   static Outcome Get(lua_State* L) {
@@ -198,8 +200,8 @@ struct Literal {
   char text[size];
 };
 
-// Accessors of a map or list that the holder caches. The getter keeps the content while it makes a table of it,
-// whatever script code runs; the setter raises `error` for anything but a table and then keeps the old content.
+// Accessors of a map or list that the holder caches. The getter holds a reference to the content, since script code may
+// run and replace it. The setter raises `error` and changes nothing if the value is not a table.
 template <class Record, auto cache>
 Outcome GetCache(lua_State* L) {
   const auto* holder = Self<Record>(L);
@@ -217,7 +219,7 @@ Outcome SetCache(lua_State* L) {
   if constexpr (std::is_same_v<Content, tarn::velora::StringList>) {
     std::int32_t length = 0;
     if (const char* tooLong = ClaimedLength(L, 2, length)) return Outcome::Error(tooLong);
-    holder = Self<Record>(L);  // asking for the length may have run script code, which may have finalized the object
+    holder = Self<Record>(L);  // `__len` may have finalized the object
     if (holder == nullptr) return Refusal();
     holder->*cache = std::make_shared<const Content>(ReadStringList(L, 2, length));
   } else {
@@ -227,7 +229,7 @@ Outcome SetCache(lua_State* L) {
   return Outcome::Results(0);
 }
 
-// The rows of a field's accessors in a class table.
+// Registration rows of a field's accessors.
 #define VELORA_GETTER(Record, name, Family) Row<family::Family::Get<&Record::get_##name>>("get_" #name)
 #define VELORA_SETTER(Record, name, Family) Row<family::Family::Set<&Record::set_##name>>("set_" #name)
 #define VELORA_CACHE_ACCESSORS(Record, name, label)             \

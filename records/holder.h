@@ -1,4 +1,4 @@
-// The heap blocks that record userdata carry. A userdata owns its holder; two userdata never share one.
+// The heap blocks behind record userdata. Each userdata owns a holder of its own.
 #pragma once
 
 #include <memory>
@@ -12,7 +12,7 @@ namespace luavelora {
 
 static_assert(tarn::velora::kRecordClasses <= ModuleState::kMaxClasses);
 
-// One owner of a record that the SDK may own too. kClass is the number of its class in ModuleState.
+// Shares the ownership of a record with the SDK. kClass is the number of the class in ModuleState.
 template <class Record>
 struct SharedRecordHolder : Owned {
   static constexpr int kClass = tarn::velora::ClassNames<Record>::kClass;
@@ -22,11 +22,11 @@ struct SharedRecordHolder : Owned {
   std::shared_ptr<Record> record;
 };
 
-// A map or list that a setter replaces as a whole and never changes in place, so that whoever reads it can keep it.
+// A cached map or list. Setters replace it as a whole, so that a reader that copies the pointer has a stable value.
 template <class Container>
 using Cache = std::shared_ptr<const Container>;
 
-// A share request with its cached fields, which the constructor reads from the record.
+// A share request and its cached fields, which the constructor reads from the record.
 struct ShareInfoHolder : SharedRecordHolder<tarn::velora::ShareInfo> {
   explicit ShareInfoHolder(std::shared_ptr<tarn::velora::ShareInfo> reference);
 
@@ -63,8 +63,8 @@ struct HolderType<tarn::velora::ProductInfo> {
 template <class Record>
 using HolderOf = typename HolderType<Record>::Type;
 
-// The holder that a userdata's block points to, or null if the object was finalized. The block is that of a userdata
-// whose class has been tested.
+// Returns the holder that a userdata's block points to, or null if the object was finalized. The userdata must be one
+// of the class.
 template <class Record>
 HolderOf<Record>* HolderIn(const void* block) {
   return static_cast<HolderOf<Record>*>(*static_cast<Owned* const*>(block));

@@ -1,4 +1,4 @@
-// `OrderInfo`: a payment order and, through the same class table, the SDK's product registry.
+// `OrderInfo`: a payment order. The class table also has the functions of the SDK's product registry.
 #include "binding/set_constant.h"
 #include "records/classes.h"
 #include "records/fields.h"
@@ -16,7 +16,6 @@ Outcome New(lua_State* L) {
   return NewObject<OrderInfo>(L, [productId] { return OrderInfo::New(productId); });
 }
 
-// The functions of the class table, under their own names.
 namespace functions {
 
 Outcome getProductList(lua_State* L) {

@@ -1,4 +1,4 @@
-// `ProductInfo`: a store product, held as a private copy. The cached fields are written into it by a flush.
+// `ProductInfo`: a store product. The holder has a copy of the SDK's; FlushProduct writes the cached fields into it.
 #include "records/product_info.h"
 
 #include "records/classes.h"
@@ -27,7 +27,7 @@ Outcome New(lua_State* L) {
 
 Outcome ProductToString(lua_State* L) {
   return ToString<ProductInfo>(L, [](ProductInfoHolder& holder, std::string& out) {
-    const ProductInfo product = FlushProduct(holder);  // a copy: the SDK may call scripts, which may set fields
+    const ProductInfo product = FlushProduct(holder);  // a copy, since the SDK may call scripts that set fields
     return tarn::velora::toString(product, out);
   });
 }

@@ -1,4 +1,4 @@
-// What the order class needs of products.
+// The part of the product class that the order class uses.
 #pragma once
 
 #include "records/holder.h"

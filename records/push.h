@@ -1,4 +1,4 @@
-// Pushing records as userdata. A userdata is complete before it owns anything, so that a Lua error loses nothing.
+// Pushes records as userdata. A userdata gets its holder last, so that a Lua error leaks nothing.
 #pragma once
 
 #include <memory>
@@ -9,21 +9,21 @@
 
 namespace luavelora {
 
-// Pushes the metatable of the class, or nil and returns false if the class is not registered.
+// Pushes the metatable of the class and returns true, or pushes nil and returns false if the class is not registered.
 template <class Record>
 bool PushMetatable(lua_State* L, const ModuleState& state) {
   return lua_rawgeti(L, LUA_REGISTRYINDEX, state.metatables[HolderOf<Record>::kClass]) == LUA_TTABLE;
 }
 
-// Pushes a new userdata that has no holder yet, and is therefore no object, and returns its block. `pushMetatable()`
-// is a PushMetatable. Pushes nil and returns null if that fails or the state is closing. May raise.
+// Pushes a new userdata of the class and returns its block, which the caller points to a holder. `pushMetatable()` does
+// what PushMetatable does. Pushes nil and returns null if it fails or if the state is closed. May raise.
 template <class Record, class Push>
 Owned** PushWithoutHolder(lua_State* L, ModuleState& state, Push pushMetatable) {
   state.PayDebt(L);
   auto* block = static_cast<Owned**>(lua_newuserdata(L, sizeof(void*)));
   *block = nullptr;
   const bool isRegistered = pushMetatable();
-  // Tested now, since creating the userdata may have run script code, and even the closing.
+  // Tested after lua_newuserdata, which may run script code and even close the state.
   if (state.closed || !isRegistered) [[unlikely]] {
     lua_pop(L, 2);
     lua_pushnil(L);
@@ -38,8 +38,8 @@ Owned** PushWithoutHolder(lua_State* L, ModuleState& state) {
   return PushWithoutHolder<Record>(L, state, [&] { return PushMetatable<Record>(L, state); });
 }
 
-// Pushes a userdata with a reference of its own to the record. Pushes nil if `reference` is empty or if no userdata can
-// own one. May raise.
+// Pushes a new userdata whose holder has a copy of `reference`. Pushes nil if `reference` is empty, the class is not
+// registered or the state is closed. May raise.
 template <class Record, class Push>
 void PushRecord(lua_State* L, ModuleState& state, const std::shared_ptr<Record>& reference, Push pushMetatable) {
   if (reference == nullptr)
@@ -53,7 +53,7 @@ void PushRecord(lua_State* L, ModuleState& state, const std::shared_ptr<Record>&
   PushRecord(L, state, reference, [&] { return PushMetatable<Record>(L, state); });
 }
 
-// Pushes a new table with a userdata for each record, nil for an empty reference. May raise.
+// Pushes a new table with what PushRecord pushes for each record. May raise.
 template <class Record>
 void PushRecordList(lua_State* L, ModuleState& state, const std::vector<std::shared_ptr<Record>>& records) {
   lua_createtable(L, TableSize(records.size()), 0);

@@ -1,4 +1,4 @@
-// `QueryRankInfo`: which ranking to query, over whom, how many entries.
+// `QueryRankInfo`: the ranking to query, its scope and the number of entries.
 #include "binding/set_constant.h"
 #include "records/classes.h"
 #include "records/fields.h"

@@ -1,5 +1,5 @@
-// `ShareInfo`: a share request. The cached fields are read from the record at `new` and written back by every flush;
-// all others are the record's own.
+// `ShareInfo`: a share request. `new` reads the cached fields from the record, FlushShare writes them back. Accessors
+// of other fields use the record itself.
 #include "records/share_info.h"
 
 #include "binding/set_constant.h"
@@ -12,7 +12,7 @@ using tarn::velora::ShareInfo;
 
 namespace {
 
-// Reads the content of one cache.
+// Returns a new cache with the record's value of a field.
 template <class Container>
 Cache<Container> Take(ShareInfo& record, void (ShareInfo::*get)(Container&)) {
   auto content = std::make_shared<Container>();
@@ -20,7 +20,7 @@ Cache<Container> Take(ShareInfo& record, void (ShareInfo::*get)(Container&)) {
   return content;
 }
 
-// Writes one cache. `cache` is a copy, which keeps the content alive if the SDK calls back into a script.
+// Sets a field to the content of its cache. `cache` is a copy, which keeps the content alive if the SDK calls a script.
 template <class Container>
 void WriteBack(ShareInfo& record, void (ShareInfo::*set)(const Container&), Cache<Container> cache) {
   (record.*set)(*cache);

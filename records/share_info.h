@@ -1,4 +1,4 @@
-// What the wrappers need of share requests.
+// The part of the share class that the wrappers use.
 #pragma once
 
 #include <memory>
@@ -7,8 +7,8 @@
 
 namespace luavelora {
 
-// Writes the cached fields into the record, changed or not, and returns the holder's reference. Pin the holder: this
-// calls the SDK's setters.
+// Writes all cached fields into the record and returns the holder's reference. The holder must be pinned, since the
+// SDK's setters may call scripts.
 const std::shared_ptr<tarn::velora::ShareInfo>& FlushShare(ShareInfoHolder& holder);
 
 }  // namespace luavelora
