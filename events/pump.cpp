@@ -1,4 +1,3 @@
-// The per-frame pass over the SDK's events.
 #include "events/pump.h"
 
 #include <bitset>
@@ -19,7 +18,7 @@ namespace {
 
 using tarn::velora::Event;
 
-// One pass. It lives outside the protected call that runs it, so that the batch is released on every way out.
+// One pass. It is outside the protected call that runs it, so that the batch is released even after a Lua error.
 struct Pass {
   std::vector<std::shared_ptr<Event>> batch;
   std::size_t next = 0;
@@ -37,8 +36,8 @@ void ResumeCollector(lua_State* L, Pass& pass) {
   if (std::exchange(pass.collectorPaused, false)) lua_gc(L, LUA_GCRESTART, 0);
 }
 
-// Calls the slot's function, which is on top of the stack, with the arguments of the layout. Once it is called nothing
-// raises.
+// Calls the function on top of the stack with the event's arguments and pops it. Logs an error of the function. Once the
+// function is called, this raises nothing.
 template <class Layout>
 void Deliver(lua_State* L, ModuleState& state, Pass& pass, const Event& event) {
   const int arguments = PushArguments(L, state, static_cast<const Layout&>(event));
@@ -76,9 +75,9 @@ void LogUnknownType(std::int32_t type) {
   }
 }
 
-// Delivers the rest of the batch; runs in protected mode. The callback table never changes during the state's life, so
-// it is fetched once; a slot is read for every event, since callbacks may change it, unless it was found empty and no
-// callback has run since.
+// Delivers the rest of the batch. Runs in protected mode. Gets the callback table once, since it stays the same while
+// the state lives. Reads the slot again for every event, since callbacks may change it, except for slots that were
+// empty and no callback has run since.
 void DeliverRest(lua_State* L, Pass& pass) {
   ModuleState* state = ModuleStateOf(L);
   if (state == nullptr) return;
