@@ -1,4 +1,4 @@
-// The callback slots: one per event type, kept in the callback table "VELORA" under the type number.
+// The callback slots. Each event type has one, in the callback table "VELORA" at the type's number.
 #pragma once
 
 #include <iterator>
@@ -10,7 +10,7 @@ namespace luavelora {
 
 inline constexpr const char* kCallbackTable = "VELORA";
 
-// Stores argument 1 in the slot if it is a function; anything else leaves the slot as it is.
+// Stores argument 1 in the slot. Does nothing if it is not a function.
 template <int slot>
 Outcome SetCallback(lua_State* L) {
   if (!lua_isfunction(L, 1)) return Refusal();
@@ -20,14 +20,14 @@ Outcome SetCallback(lua_State* L) {
   return Outcome::Results(0);
 }
 
-// Returns the function in the slot, or no result.
+// Returns the function in the slot, or no result if the slot is empty.
 template <int slot>
 Outcome GetCallback(lua_State* L) {
   GetSdkCallbackTable(L, kCallbackTable);
   return Outcome::Results(lua_rawgeti(L, -1, slot) == LUA_TNIL ? 0 : 1);
 }
 
-// The rows of the accessors, a pair per event.
+// Registration rows: a setter and a getter per event.
 inline constexpr luaL_Reg kCallbackAccessors[] = {
 #define VELORA_EVENT(type, name, Layout) Row<SetCallback<type>>("setOn" #name), Row<GetCallback<type>>("getOn" #name),
 #include "platform/events.def"

@@ -1,5 +1,5 @@
-// The callback arguments of each event layout: its payload fields in order, each pushed by its type. Runs inside the
-// pump's protected call and may raise.
+// Pushes the callback arguments of an event: the fields of its layout in order. There is a PushField for each type of
+// field. All of them may raise; they run inside the pump's protected call.
 #pragma once
 
 #include "binding/conversions.h"
@@ -32,7 +32,7 @@ void PushField(lua_State* L, ModuleState& state, const std::vector<std::shared_p
   PushRecordList(L, state, records);
 }
 
-// Pushes the arguments and returns their number.
+// Pushes the arguments for `event` and returns their number.
 template <class Layout>
 int PushArguments(lua_State* L, ModuleState& state, const Layout& event) {
   constexpr auto kFields = tarn::velora::kPayload<Layout>;

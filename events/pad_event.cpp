@@ -1,4 +1,4 @@
-// `PadEvent`: a read-only view of the SDK's controller record. Getters read the record on every call.
+// `PadEvent`: read-only access to the SDK's controller record. Getters read the record on every call.
 #include "events/pad_event.h"
 
 #include "records/fields.h"

@@ -1,4 +1,4 @@
-// The class of the controller record that the controller events carry.
+// The class of the records in controller events.
 #pragma once
 
 struct lua_State;

@@ -6,14 +6,14 @@
 
 namespace luavelora::wrappers {
 
-// The one query that returns a value for a bad argument.
+// Returns false for a bad argument, unlike other wrappers.
 Outcome hasFeature(lua_State* L) {
   const char* feature = TextArgument(L, 1);
   lua_pushboolean(L, feature != nullptr && tarn::velora::hasFeature(feature));
   return Outcome::Results(1);
 }
 
-// A second argument that is neither a string nor a number chooses the shorter form, as an absent one does.
+// Calls the overload without `second` if argument 2 is neither a string nor a number.
 Outcome getPropStr(lua_State* L) {
   const char* name = TextArgument(L, 1);
   if (name == nullptr) return Refusal();
@@ -23,8 +23,8 @@ Outcome getPropStr(lua_State* L) {
   });
 }
 
-// The SDK takes an untyped pointer, to an int, a string or a one-byte bool as the Lua type says, and reads it in the
-// form that the option's name asks for. Zeros behind a short value keep a reading in the wrong form inside the buffer.
+// Passes a pointer to an int, a string or a one-byte bool, depending on the Lua type. The SDK reads it as the type of
+// the option. Short values are padded with zeros, so that reading one as a wrong type stays inside the buffer.
 Outcome zvLumoSetOption(lua_State* L) {
   if (lua_gettop(L) < 2 || !lua_isstring(L, 1)) return Refusal();
   const char* name = TextArgument(L, 1);

@@ -1,4 +1,4 @@
-// Record parameters of the wrapper template.
+// Parameters of wrappers that are records.
 #pragma once
 
 #include "binding/wrapper.h"
@@ -7,7 +7,7 @@
 
 namespace luavelora {
 
-// The holder's own reference for the SDK, pinned for the call. A share request is flushed first.
+// A record as argument of an SDK call, pinned for the call. A share request is flushed first.
 template <class Record>
 class RecordArgument {
  public:

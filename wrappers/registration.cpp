@@ -1,4 +1,3 @@
-// The module's registration list, joined at compile time from the wrappers and the callback accessors.
 #include "wrappers/registration.h"
 
 #include <algorithm>

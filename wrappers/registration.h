@@ -1,4 +1,4 @@
-// The module's one registration list.
+// The functions of the module table.
 #pragma once
 
 #include <lua.hpp>
@@ -6,7 +6,7 @@
 
 namespace luavelora {
 
-// The rows of the wrappers and the callback accessors, and an empty row at the end.
+// Registration rows of the wrappers and the callback accessors, with an empty row at the end.
 extern const std::span<const luaL_Reg> kModuleFunctions;
 
 }  // namespace luavelora

@@ -19,7 +19,7 @@ Outcome zvSendPushNotification(lua_State* L) {
   return Outcome::Results(0);
 }
 
-// A fifth argument that is neither a string nor a number chooses the shorter form, as an absent one does.
+// Calls the overload without an icon if argument 5 is neither a string nor a number.
 Outcome zvCreateQRCode(lua_State* L) {
   using Text = Parameter<const std::string&>;
   return WithArguments<const std::string&, std::int32_t, std::int32_t, const std::string&>(
@@ -41,12 +41,12 @@ lua_Integer OptionalInteger(lua_State* L, int index, lua_Integer otherwise) {
 
 }  // namespace
 
-// The data goes to the SDK without a copy; the size never reaches beyond it.
+// Passes the data without a copy. A size of 0, a negative one or one beyond the data means all of the data.
 Outcome zvPushGameVoice(lua_State* L) {
   std::size_t length = 0;
   const char* data = lua_tolstring(L, 1, &length);
   if (data == nullptr) return Refusal();
-  const auto size = static_cast<std::size_t>(OptionalInteger(L, 2, 0));  // a negative one is huge
+  const auto size = static_cast<std::size_t>(OptionalInteger(L, 2, 0));  // huge if negative
   tarn::velora::zvPushGameVoice(
       data, size == 0 || size > length ? length : size, static_cast<std::uint32_t>(OptionalInteger(L, 3, 48000)),
       static_cast<std::uint32_t>(OptionalInteger(L, 4, 16)), static_cast<std::uint32_t>(OptionalInteger(L, 5, 2)));

@@ -3,7 +3,7 @@
 
 namespace luavelora::wrappers {
 
-// The SDK takes a pointer and a count; an empty list is a null pointer.
+// Passes a pointer and a count, for an empty list a null pointer.
 Outcome zvDisplayQuests(lua_State* L) {
   if (!lua_istable(L, 1)) return Outcome::Error(kNeedsTable);
   std::int32_t length = 0;

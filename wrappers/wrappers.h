@@ -1,4 +1,4 @@
-// The wrappers whose rules do not follow from their operation's type, each under its operation's name.
+// The bodies of the wrappers whose rules do not follow from their operation's type. Each has its operation's name.
 #pragma once
 
 #include "binding/wrapper.h"
