@@ -1,4 +1,3 @@
-// Copies the SDK's statics, as they are when the module starts, and the module's own codes into the module table.
 #include "constants/constants.h"
 
 #include <limits>
@@ -26,7 +25,7 @@ void Set(lua_State* L, const char* name, const void* value) {
   SetConstant(L, name, LuaValue(*static_cast<const Kind*>(value)));
 }
 
-// Not constexpr: the address of imported data is no constant expression for every compiler.
+// Not constexpr, since not every compiler takes the address of imported data as a constant expression.
 const struct {
   const char* name;
   const void* value;

@@ -5,10 +5,10 @@
 
 namespace luavelora {
 
-// Returns what scripts see of a float constant: truncated toward zero; values outside 32 bits are clamped, and NaN is
-// 0.
+// Returns a float constant as scripts see it: truncated toward zero and clamped to 32 bits, or 0 for NaN.
 lua_Integer LuaValue(float value);
 
+// The number of constants that RegisterSdkConstants stores.
 inline constexpr int kConstants = 0
 #define VELORA_CONSTANT(name, kind) +1
 #include "platform/constants.def"
@@ -16,7 +16,8 @@ inline constexpr int kConstants = 0
 #include "constants/module_constants.def"
     ;
 
-// Stores the constants raw in the table on top of the stack, which stays there. May raise.
+// Stores the current values of the SDK's constants, and the module's own codes, in the table on top of the stack,
+// without metamethods, and leaves the table there. May raise.
 void RegisterSdkConstants(lua_State* L);
 
 }  // namespace luavelora
