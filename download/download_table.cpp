@@ -1,4 +1,3 @@
-// The functions of `velora.download`.
 #include "download/download_table.h"
 
 #include "binding/boundary.h"
@@ -12,19 +11,20 @@ namespace {
 
 namespace sdk = tarn::velora::download;
 
-// Where SetSyncDownloadHandler keeps things on the stack. Everything that can run script code, which could set a
-// handler itself, happens first; nothing is allocated afterwards.
+// Stack indexes in SetSyncDownloadHandler. It fills the stack first, which can run script code that sets a handler too,
+// and allocates nothing afterwards.
 constexpr int kTable = 2;
 constexpr int kFirstKey = kTable + 1;
 constexpr int kFirstFunction = kFirstKey + kHandlerFunctions;
 
+// Leaves argument 1, the callback table and the keys of the functions on the stack.
 void PrepareStack(lua_State* L) {
   lua_settop(L, 1);
   GetSdkCallbackTable(L, kHandlerTable);
   for (const char* key : kHandlerKeys) lua_pushstring(L, key);
 }
 
-// Removes the old functions from the callback table.
+// Removes the functions of the old handler from the callback table.
 void ClearFunctions(lua_State* L) {
   for (int i = 0; i < kHandlerFunctions; ++i) {
     lua_pushvalue(L, kFirstKey + i);
@@ -37,7 +37,7 @@ void ClearFunctions(lua_State* L) {
   }
 }
 
-// Pushes the handler table's functions from kFirstFunction on and returns whether all are there.
+// Pushes the functions of the handler in argument 1 and returns true. Returns false if one of them is no function.
 bool ReadFunctions(lua_State* L) {
   for (int i = 0; i < kHandlerFunctions; ++i) {
     lua_pushvalue(L, kFirstKey + i);

@@ -1,11 +1,11 @@
-// The sub-table `download` of the module table.
+// The functions of `velora.download`.
 #pragma once
 
 #include <lua.hpp>
 
 namespace luavelora {
 
-// The functions, with an empty row at the end.
+// Registration rows, with an empty row at the end.
 extern const luaL_Reg kDownloadFunctions[];
 
 }  // namespace luavelora

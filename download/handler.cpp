@@ -1,4 +1,3 @@
-// Forwarding the download service's calls to Lua.
 #include "download/handler.h"
 
 #include "binding/boundary.h"

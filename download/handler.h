@@ -1,4 +1,4 @@
-// The handler through which the SDK's download service calls Lua directly.
+// The download handler that the SDK calls. It calls Lua at once, not through the event queue.
 #pragma once
 
 #include <lua.hpp>
@@ -11,30 +11,30 @@ inline constexpr const char* kHandlerTable = "LuaSyncDownloadHandler";
 inline constexpr int kHandlerFunctions = 3;
 inline constexpr const char* kHandlerKeys[kHandlerFunctions] = {"onInited", "onProgress", "onFinish"};
 
-// Forwards each of the SDK's calls to the script's function of the same name, in the state that registered it, and
-// does nothing while none is. The SDK must call it on the thread of that state. Nothing ever leaves an operation: what
-// the function raises, what Lua raises while the arguments are built, and a full Lua stack are logged as errors of a
-// callback.
+// Calls the script's function of the same name in the state that registered a handler; does nothing if no state did.
+// The SDK must call it on the thread of that state. No error or exception leaves an operation: errors of the script's
+// function, of building its arguments, and of a full Lua stack are logged as callback errors.
 class LuaSyncDownloadHandler final : public tarn::velora::download::SyncDownloadHandler {
  public:
   void onInited() override;
   void onProgress(const char* text) override;
   void onFinish(const char* text, const void* bytes, std::uint64_t count) override;
 
-  // Null while no handler is registered.
+  // Returns the state that registered a handler, or null.
   lua_State* state() const { return state_; }
 
-  // The state whose callback table holds the three functions from now on; null to be off.
+  // Sets the state whose callback table has the three functions; null disables the handler.
   void SetState(lua_State* L) { state_ = L; }
 
  private:
+  // Calls the script's function `key`. `pushArguments(L)` pushes its arguments and returns their number.
   template <class PushArguments>
   void Forward(const char* key, PushArguments pushArguments);
 
   lua_State* state_ = nullptr;
 };
 
-// The one instance, from the loading of the library to its unloading.
+// The only instance. It lives as long as the library is loaded.
 extern LuaSyncDownloadHandler downloadHandler;
 
 }  // namespace luavelora
