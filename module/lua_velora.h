@@ -1,8 +1,8 @@
-// The module's three entry points. Call each on the thread that owns the Lua state, with its main state, not a
-// coroutine; each leaves the Lua stack as it found it. They have no error result. No C++ exception escapes. Lua errors
-// do, so call them in protected mode: memory that runs out, a full Lua stack, too many nested C calls, hooks that
-// raise, exceptions of the SDK (`RegisterChannel`, `SwapEvents`), in InitLuaVelora an error of a `__newindex` on the
-// globals table, and in DeinitLuaVelora without InitLuaVelora an error of a finalizer. docs/embedding.md has the list.
+// The module's three entry points. Call them on the thread that owns the Lua state and pass its main state, not a
+// coroutine. They leave the Lua stack as it was and have no error result. No C++ exception leaves them, but Lua errors
+// do, so call them in protected mode: out of memory, a full Lua stack, too many nested C calls, an error of a hook, an
+// exception of the SDK (`RegisterChannel`, `SwapEvents`), in InitLuaVelora an error of a `__newindex` of the globals
+// table, and in DeinitLuaVelora without InitLuaVelora an error of a finalizer. docs/embedding.md has the details.
 #pragma once
 
 struct lua_State;
@@ -28,15 +28,15 @@ extern "C" {
 #endif
 
 // Builds the global table `velora`. Call it once, before any script uses the module; a second call builds a new
-// table and leaves objects made before it valid.
+// table and leaves existing objects valid.
 LUA_VELORA_API void InitLuaVelora(struct lua_State* L);
 
-// Hands every event that the SDK has queued to the script's callbacks. Call it once per frame. Errors of callbacks
-// are logged and never reach the host.
+// Calls the scripts' callbacks for all events that the SDK has queued. Call it once per frame. Errors of callbacks are
+// logged and do not reach the host.
 LUA_VELORA_API void UpdateLuaVelora(struct lua_State* L);
 
-// Forgets all event callbacks. Call it once at shutdown, while the Lua state still exists. The table `velora`,
-// objects that scripts hold and a registered download handler stay as they are.
+// Removes all event callbacks. Call it once at shutdown, before the Lua state is closed. Does not change the table
+// `velora`, objects that scripts have, or a registered download handler.
 LUA_VELORA_API void DeinitLuaVelora(struct lua_State* L);
 
 #ifdef __cplusplus
