@@ -1,4 +1,4 @@
-// The three exported entry points: what happens at start, each frame, at the end.
+// The three exported entry points.
 #include <lua.hpp>
 
 #include "binding/boundary.h"
@@ -20,7 +20,7 @@ namespace {
 
 constexpr luaL_Reg kUtilsFunctions[] = {{nullptr, nullptr}};
 
-// Stores a new table of functions raw in the table on top of the stack.
+// Stores a new table of functions in the table on top of the stack, without metamethods.
 void SetSubTable(lua_State* L, const char* key, const luaL_Reg* functions) {
   lua_pushstring(L, key);
   lua_newtable(L);
@@ -28,16 +28,18 @@ void SetSubTable(lua_State* L, const char* key, const luaL_Reg* functions) {
   lua_rawset(L, -3);
 }
 
-// Afterwards the state's objects are invalid and the download service no longer calls it.
+// Called when the state closes. Makes its objects invalid and disables a download handler that it registered.
 void AtClose(lua_State* L, const ModuleState& state) {
   if (downloadHandler.state() == state.mainState) downloadHandler.SetState(nullptr);
   UnregisterClasses(L, state);
 }
 
-// The module table stays on top from its creation to the end. It is published as soon as it has its functions.
+// Builds the module table, which stays on top of the stack until it is complete. It becomes a global as soon as it has
+// its functions.
 void Build(lua_State* L) {
   OpenModuleState(L, AtClose);
-  GetSdkCallbackTable(L, kCallbackTable);  // created now, since doing so in Deinit could run a finalizer that raises
+  GetSdkCallbackTable(L,
+                      kCallbackTable);  // created here, since creating it in Deinit could run a finalizer that raises
   lua_pop(L, 1);
   tarn::velora::LogChannel = tarn::log::RegisterChannel("VELORA");
   lua_createtable(L, 0, static_cast<int>(kModuleFunctions.size()) + kConstants);
@@ -57,7 +59,7 @@ void Build(lua_State* L) {
   lua_pop(L, 1);
 }
 
-// Everything that Init creates stays, so the collector would only look at it again and again; it pauses.
+// Stops the collector while it builds: nothing that Build creates becomes garbage, so a collection would be wasted.
 Outcome Init(lua_State* L) {
   const bool running = lua_gc(L, LUA_GCISRUNNING, 0) != 0;
   lua_gc(L, LUA_GCSTOP, 0);
@@ -67,7 +69,7 @@ Outcome Init(lua_State* L) {
   return status == LUA_OK ? Outcome::Results(0) : Outcome::Rethrow();
 }
 
-// An empty slot is left alone: storing nil under a new key would allocate.
+// Skips empty slots, since storing nil under a new key would allocate.
 Outcome Deinit(lua_State* L) {
   GetSdkCallbackTable(L, kCallbackTable);
   for (int slot = 0; slot < kEventTypes; ++slot) {
@@ -81,7 +83,8 @@ Outcome Deinit(lua_State* L) {
   return Outcome::Results(0);
 }
 
-// The host calls the entry points as plain functions: stack space is not guaranteed, and only a Lua error may escape.
+// Runs the body of an entry point and raises its error. Hosts call entry points directly and not through Lua, so Lua
+// has not ensured any stack space.
 void Run(lua_State* L, Outcome (*body)(lua_State*)) {
   luaL_checkstack(L, LUA_MINSTACK, nullptr);
   ErrorText text;
