@@ -1,4 +1,3 @@
-// The counted allocation functions.
 #include "bench/allocations.h"
 
 #include <malloc.h>

@@ -1,4 +1,4 @@
-// Counts heap blocks, those of operator new anywhere in the program and those of Lua's allocator.
+// Counts the heap blocks of operator new in the whole program and of CountingLuaAllocator.
 #pragma once
 
 #include <cstddef>
@@ -6,17 +6,19 @@
 
 namespace bench {
 
-// Blocks allocated and blocks grown so far.
+// Returns how often a block has been allocated or grown so far.
 std::int64_t Allocations();
 
-// What is allocated now: bytes as malloc counts them, headers and rounding included, and blocks.
+// Allocated memory: bytes, including malloc's headers and rounding, and blocks.
 struct Held {
   double bytes;
   double blocks;
 };
+
+// Returns what is allocated now.
 Held HeldNow();
 
-// The allocator of the measured states.
+// A lua_Alloc, the allocator of the measured Lua states.
 void* CountingLuaAllocator(void*, void* block, std::size_t oldSize, std::size_t newSize);
 
 }  // namespace bench

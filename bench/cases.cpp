@@ -1,4 +1,3 @@
-// The cases and how each kind of them runs.
 #include "bench/cases.h"
 
 #include <algorithm>
@@ -18,7 +17,7 @@
 namespace bench {
 
 struct EventKind {
-  const char* callback;  // the event's name in the callback accessors; null if nobody listens
+  const char* callback;  // the event's name in the callback accessors; null if no callback is set
   std::shared_ptr<tarn::velora::Event> (*make)();
 };
 
@@ -37,14 +36,15 @@ class State {
   lua_State* L;
 };
 
-// Ends the program with Lua's message when `status` is an error.
+// Prints Lua's message and ends the program if `status` is an error.
 void Check(lua_State* L, int status) {
   if (status == LUA_OK) return;
   std::fprintf(stderr, "%s\n", lua_tostring(L, -1));
   std::abort();
 }
 
-// A state with module and lower bound. Both are in it whichever runs, so that the collector's work is the same.
+// Returns a state with module and lower bound. It has both whichever is measured, so that the collector's work is
+// equal.
 State MeasuredState() {
   State state;
   InitLuaVelora(state.L);
@@ -52,7 +52,7 @@ State MeasuredState() {
   return state;
 }
 
-// Calls from Lua, in a loop written in Lua.
+// Calls from a loop in Lua.
 class Calls : public Workload {
  public:
   Calls(const Case& measured, Side side) : state_(MeasuredState()), operations_(measured.operations) {
@@ -76,7 +76,7 @@ class Calls : public Workload {
   }
 
  private:
-  // A table of strings, as a list or under string keys.
+  // Pushes a table of strings, under string keys or as a list.
   static void PushStrings(lua_State* L, int count, bool keyed) {
     lua_newtable(L);
     for (int k = 1; k <= count; ++k) {
@@ -95,7 +95,7 @@ class Calls : public Workload {
   std::int64_t operations_;
 };
 
-// Frames with so many events each. The events live on, since destroying them is the SDK's work.
+// Frames with the same number of events each. The events are kept, since destroying them is the SDK's work.
 class Frames : public Workload {
  public:
   Frames(const Case& measured, Side side)
@@ -125,57 +125,58 @@ class Frames : public Workload {
   void (*update_)(lua_State*);
 };
 
-// What a table holds under a string key.
-struct Entry {
+// A string key of a table and its value.
+struct TableField {
   std::string key;
   int type;
   lua_CFunction function = nullptr;
   lua_Integer integer = 0;
   std::string string = {};
-  std::vector<Entry> table = {};
+  std::vector<TableField> table = {};
 };
 
-// Reads the entries of the table on top of the stack.
-std::vector<Entry> ReadEntries(lua_State* L) {
-  std::vector<Entry> entries;
+// Returns the fields of the table on top of the stack.
+std::vector<TableField> ReadFields(lua_State* L) {
+  std::vector<TableField> fields;
   for (lua_pushnil(L); lua_next(L, -2) != 0; lua_pop(L, 1)) {
-    Entry& entry = entries.emplace_back(Entry{lua_tostring(L, -2), lua_type(L, -1)});
-    if (entry.type == LUA_TTABLE)
-      entry.table = ReadEntries(L);
+    TableField& field = fields.emplace_back(TableField{lua_tostring(L, -2), lua_type(L, -1)});
+    if (field.type == LUA_TTABLE)
+      field.table = ReadFields(L);
     else if (lua_isinteger(L, -1))
-      entry.integer = lua_tointeger(L, -1);
-    else if (entry.type == LUA_TSTRING)
-      entry.string = lua_tostring(L, -1);
-    else if ((entry.function = lua_tocfunction(L, -1)) == nullptr)
+      field.integer = lua_tointeger(L, -1);
+    else if (field.type == LUA_TSTRING)
+      field.string = lua_tostring(L, -1);
+    else if ((field.function = lua_tocfunction(L, -1)) == nullptr)
       std::abort();
   }
-  return entries;
+  return fields;
 }
 
-void PushEntries(lua_State* L, const std::vector<Entry>& entries) {
-  lua_createtable(L, 0, static_cast<int>(entries.size()));
-  for (const Entry& entry : entries) {
-    lua_pushlstring(L, entry.key.data(), entry.key.size());
-    if (entry.type == LUA_TTABLE)
-      PushEntries(L, entry.table);
-    else if (entry.type == LUA_TNUMBER)
-      lua_pushinteger(L, entry.integer);
-    else if (entry.type == LUA_TSTRING)
-      lua_pushlstring(L, entry.string.data(), entry.string.size());
+// Pushes a new table with the fields.
+void PushFields(lua_State* L, const std::vector<TableField>& fields) {
+  lua_createtable(L, 0, static_cast<int>(fields.size()));
+  for (const TableField& field : fields) {
+    lua_pushlstring(L, field.key.data(), field.key.size());
+    if (field.type == LUA_TTABLE)
+      PushFields(L, field.table);
+    else if (field.type == LUA_TNUMBER)
+      lua_pushinteger(L, field.integer);
+    else if (field.type == LUA_TSTRING)
+      lua_pushlstring(L, field.string.data(), field.string.size());
     else
-      lua_pushcfunction(L, entry.function);
+      lua_pushcfunction(L, field.function);
     lua_rawset(L, -3);
   }
 }
 
-// The module's start in fresh states. The lower bound stores what the module's tables hold, in tables of that size.
+// The module's start in new states. The lower bound stores the content of the module's tables in tables of their size.
 class Starts : public Workload {
  public:
   Starts(const Case& measured, Side side) : operations_(measured.operations), side_(side) {
     const State state;
     InitLuaVelora(state.L);
     lua_getglobal(state.L, "velora");
-    entries_ = ReadEntries(state.L);
+    fields_ = ReadFields(state.L);
   }
 
   void Prepare() override {
@@ -188,7 +189,7 @@ class Starts : public Workload {
       if (side_ == Side::kModule) {
         InitLuaVelora(state.L);
       } else {
-        PushEntries(state.L, entries_);
+        PushFields(state.L, fields_);
         lua_setglobal(state.L, "velora");
       }
     }
@@ -197,7 +198,7 @@ class Starts : public Workload {
  private:
   std::int64_t operations_;
   Side side_;
-  std::vector<Entry> entries_;
+  std::vector<TableField> fields_;
   std::vector<State> states_;
 };
 
@@ -251,7 +252,7 @@ constexpr std::int64_t kSome = 2'000;
 constexpr auto kCalls = Make<Calls>;
 constexpr auto kFrames = Make<Frames>;
 
-// What `make(k)`, called for k from 1 to kRecords, leaves on the heap, per call.
+// Calls `make(k)` for k from 1 to kRecords and returns what it leaves on the heap per call.
 constexpr int kRecords = 10'000;
 template <class Make>
 Held HeldPerRecord(lua_State* L, Make make) {

@@ -1,4 +1,4 @@
-// What is measured: each case runs the same work through the module and through the hand-written lower bound.
+// The measured cases. Each runs the same work through the module and through the hand-written lower bound.
 #pragma once
 
 #include <cstdint>
@@ -11,11 +11,11 @@ namespace bench {
 
 enum class Side { kModule, kBare };
 
-// One side of a case, in a Lua state of its own with both module and lower bound.
+// One side of a case, in its own Lua state. The state has both the module and the lower bound.
 class Workload {
  public:
   virtual ~Workload() = default;
-  // Prepares what one run consumes. Not measured.
+  // Called before each Run, not measured.
   virtual void Prepare() = 0;
   virtual void Run() = 0;
 };
@@ -25,16 +25,17 @@ struct Case {
   const char* name;
   std::int64_t operations;  // in one run
   std::unique_ptr<Workload> (*make)(const Case&, Side);
-  const char* script = "";  // of a call case: returns a function that does n operations with the table `api`
+  const char* script = "";  // of a call case; returns a function(n) that does n operations of the table `api`
   struct Frame {            // of an event case
     const struct EventKind* kind = nullptr;
     std::int64_t events = 0;
   } frame = {};
 };
 
+// Returns all cases.
 const std::vector<Case>& Cases();
 
-// What an OrderInfo userdata that a script holds takes from the heap, without the SDK's record.
+// Returns the heap memory of an OrderInfo userdata, without the SDK's record.
 Held HeldRecord(Side side);
 
 }  // namespace bench

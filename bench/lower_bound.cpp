@@ -1,6 +1,6 @@
-// Hand-written bindings. Tables are made with their size, a record takes one heap block beside its userdata, and a
-// metatable is an upvalue or is fetched once per list. lua_pushstring or lua_pushlstring is called, whichever measured
-// faster: the former finds a string that was pushed from the same address before without hashing it.
+// Tables are created with their final size, a record takes one heap block besides its userdata, and a metatable is an
+// upvalue or is looked up once per list. Each string is pushed by lua_pushstring or lua_pushlstring, whichever was
+// faster when measured: the former does not hash a string again that was pushed from the same address before.
 #include "bench/lower_bound.h"
 
 #include <memory>
@@ -32,7 +32,7 @@ struct Holder {
 template <class Record>
 const char kMetatable = 0;
 
-// The functions of a class have its metatable as their upvalue.
+// The functions of a class have its metatable as upvalue.
 constexpr int kOwnMetatable = lua_upvalueindex(1);
 
 // Pushes a userdata with the metatable at `metatable`, an absolute index.
@@ -50,7 +50,7 @@ int Collect(lua_State* L) {
   return 0;
 }
 
-// The holder of argument 1, null if it is not of the function's class. Leaves a value on the stack.
+// Returns the holder of argument 1, or null if it is not of the function's class. Leaves a value on the stack.
 template <class Record>
 Holder<Record>* Self(lua_State* L) {
   if (lua_getmetatable(L, 1) == 0 || lua_topointer(L, -1) != lua_topointer(L, kOwnMetatable)) return nullptr;
@@ -68,7 +68,7 @@ int CancelLocalNotification(lua_State* L) {
   return 0;
 }
 
-// Null if the argument is neither a string nor a number.
+// `data` is null if the argument is neither a string nor a number.
 struct StringArgument {
   StringArgument(lua_State* L, int index) : data(lua_tostring(L, index)) {}
   std::string Make() const { return data; }  // up to the first zero byte
@@ -119,7 +119,7 @@ int DeleteInviters(lua_State* L) {
     lua_rawgeti(L, 1, k);
     const StringArgument element(L, -1);
     list.emplace_back(element.data);
-    if (k % 16 == 0) lua_settop(L, 1);  // Lua promises 20 slots
+    if (k % 16 == 0) lua_settop(L, 1);  // Lua ensures 20 slots
   }
   zvDeleteInviters(list);
   return 0;
@@ -219,7 +219,7 @@ const luaL_Reg kShareFunctions[] = {
     {nullptr, nullptr},
 };
 
-// Pushes a new metatable, which is kept in the registry.
+// Pushes a new metatable and stores it in the registry.
 template <class Record>
 void PushMetatable(lua_State* L) {
   lua_newtable(L);
@@ -229,7 +229,7 @@ void PushMetatable(lua_State* L) {
   lua_rawsetp(L, LUA_REGISTRYINDEX, &kMetatable<Record>);
 }
 
-// Stores a class in the table below the metatable on top of the stack, and pops the metatable.
+// Pops the metatable on top of the stack and stores its class in the table below.
 void StoreClass(lua_State* L, const char* name, const luaL_Reg* functions) {
   lua_newtable(L);
   lua_pushvalue(L, -2);
@@ -243,7 +243,7 @@ void StoreClass(lua_State* L, const char* name, const luaL_Reg* functions) {
 constexpr int kCallbacks = 1;
 constexpr int kCallback = 2;
 
-// Push the arguments of the events that the cases use, and return their number.
+// Push the arguments of an event and return their number. There is one for each layout that the cases use.
 int Push(lua_State* L, const CodeEvent& event) {
   lua_pushinteger(L, event.code);
   return 1;

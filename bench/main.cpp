@@ -1,6 +1,6 @@
-// Measures each case on both sides. Times come from Google Benchmark, whose options this program takes. With the one
-// argument --instructions it runs each side once under callgrind, which writes a dump per side. With --held-record it
-// prints what a held record takes from the heap.
+// Measures both sides of each case with Google Benchmark, and takes its options. With the single argument
+// --instructions it runs each side once for callgrind, which writes a dump per side. With --held-record it prints the
+// heap memory of a record that a script holds.
 #include <benchmark/benchmark.h>
 #include <valgrind/callgrind.h>
 
@@ -21,7 +21,7 @@ std::string NameOf(const Case& measured, Side side) {
 void Measure(benchmark::State& state, const Case& measured, Side side) {
   const auto workload = measured.make(measured, side);
   workload->Prepare();
-  workload->Run();  // caches are warm, strings are interned
+  workload->Run();  // warms caches and interns strings
   std::int64_t allocations = 0;
   for ([[maybe_unused]] auto _ : state) {
     state.PauseTiming();

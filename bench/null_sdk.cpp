@@ -1,4 +1,4 @@
-// Stand-ins for SDK operations. Being the program's own, they come before those of the SDK's library.
+// The program's own definitions of SDK operations. The linker prefers them to those in the SDK's library.
 #include "bench/null_sdk.h"
 
 #include <cstddef>
@@ -17,7 +17,7 @@ using namespace tarn::velora;
 std::vector<Batch> queuedFrames;
 std::size_t nextFrame = 0;
 
-// The accessors of a record read and write plain members.
+// Accessors that read and write plain members.
 class PlainFields {
  protected:
   static bool ReadText(const char*, const std::string& field, std::string& out) {
@@ -86,7 +86,7 @@ bool getChannel(std::string& out) {
   return true;
 }
 
-// Longer than what a std::string holds without the heap.
+// Too long for std::string's small-string buffer.
 bool getAppChannel(std::string& out) {
   out = "app_store.region_7.tester";
   return true;

@@ -1,5 +1,6 @@
-// The SDK as the measurements see it: the operations that the cases call do next to nothing, so that what is measured
-// is the way from Lua to the SDK and back. The offline runtime, which writes down every call, supplies all others.
+// An SDK whose operations do almost nothing, so that the cost of calls between Lua and the SDK is measured. Has only
+// the operations that the cases call; the others are those of the offline runtime, which is slower since it logs every
+// call.
 #pragma once
 
 #include <memory>
@@ -11,7 +12,7 @@ namespace bench {
 
 using Batch = std::vector<std::shared_ptr<tarn::velora::Event>>;
 
-// Gives the batches that the next calls of SwapEvents hand over, one each; after them there are no events.
+// Sets the batches that the next calls of SwapEvents return, one per call. Further calls return no events.
 void QueueFrames(std::vector<Batch> frames);
 
 }  // namespace bench

@@ -16,13 +16,13 @@ import sys
 import matplotlib
 
 matplotlib.use("svg")
-# The same figures make the same file.
+# Makes the file depend on the figures only.
 matplotlib.rcParams.update({"svg.hashsalt": "velora", "svg.fonttype": "none"})
 import matplotlib.pyplot as pyplot
 
 REPETITIONS = 21
 
-# What a case may cost at most, in lower bounds. A case without an entry has no target.
+# The highest allowed ratio of module to lower bound. A case without an entry has no target.
 TARGETS = {
     "events/plain": 1.15,
     "events/code": 1.15,
@@ -51,7 +51,7 @@ TARGETS = {
 
 
 def measure_times(program, folder):
-    """The median processor time and the allocations of one operation, by benchmark name."""
+    """Returns the median processor time and the allocations of one operation, by benchmark name."""
     out = folder / "times.json"
     subprocess.run(
         [program, f"--benchmark_repetitions={REPETITIONS}", "--benchmark_enable_random_interleaving=true",
@@ -64,13 +64,13 @@ def measure_times(program, folder):
         assert run["time_unit"] == "ns"
         times.setdefault(run["run_name"], []).append(run["cpu_time"] / run["operations"])
         allocations[run["run_name"]] = run["allocations"]
-    # Repetitions are interleaved at random; the order of the cases is the program's.
+    # Repetitions run in random order, so the order of the cases is taken from the program.
     listed = subprocess.run([program, "--benchmark_list_tests"], check=True, capture_output=True, text=True)
     return {name: statistics.median(times[name]) for name in listed.stdout.splitlines()}, allocations
 
 
 def count_instructions(program, folder):
-    """The instructions of one operation, by benchmark name."""
+    """Returns the instructions of one operation, by benchmark name."""
     for old in folder.glob("callgrind.out*"):
         old.unlink()
     subprocess.run(
@@ -88,7 +88,7 @@ def count_instructions(program, folder):
 
 
 def measure_held_record(program):
-    """The bytes and blocks of a held record, by side."""
+    """Returns the bytes and blocks of a held record, by side."""
     printed = subprocess.run([program, "--held-record"], check=True, capture_output=True, text=True).stdout
     return {side: (float(size), float(blocks))
             for side, size, blocks in re.findall(r"^(\w+) ([\d.]+) bytes, ([\d.]+) blocks$", printed, re.MULTILINE)}
@@ -143,7 +143,7 @@ def table(rows):
 
 
 def aligned(text):
-    """The table for a terminal."""
+    """Returns the table with aligned columns, for a terminal."""
     cells = [[cell.strip() for cell in line.strip("|").split("|")] for line in text.splitlines() if "--" not in line]
     widths = [max(len(row[k]) for row in cells) for k in range(len(cells[0]))]
     return "\n".join("  ".join(cell.ljust(width) if k == 0 else cell.rjust(width)
