@@ -1,4 +1,4 @@
-# What people type. Each target installs what it needs first (tools/setup), where it may.
+# The commands for users. Each target first installs the packages that it needs (tools/setup), if it may.
 .DEFAULT_GOAL := help
 BUILD := build
 
@@ -7,14 +7,14 @@ help: ## list the targets
 	@sed -n 's/^\([a-z-]*\):.*## \(.*\)/make \1\t\2/p' Makefile | expand -t 20
 
 .PHONY: demo
-demo: ## build, and play examples/tour.lua against the offline runtime
+demo: ## build, and run examples/tour.lua with the offline runtime
 	tools/setup build
 	cmake --preset release
 	cmake --build --preset release
 	$(BUILD)/release/bin/velora-play examples/tour.lua
 
 .PHONY: test
-test: ## build and run every test: on Linux, as Windows programs under Wine, packages, site, threads, a short fuzz run
+test: ## build and run all tests: on Linux, as Windows programs under Wine, packages, site, threads, a short fuzz run
 	tools/setup test
 	cmake --preset sanitize
 	cmake --build --preset sanitize
@@ -43,7 +43,7 @@ windows: ## build for 64-bit Windows: the module's DLL, the offline runtime, the
 # Microsoft's standard library: its headers and sources.
 STL := ../shared/visual-cpp/stl
 .PHONY: visual-cpp
-visual-cpp: ## build for Visual C++'s ABI with Clang and run every test under Wine; STL=FOLDER of microsoft/STL
+visual-cpp: ## build for Visual C++'s ABI with Clang and run all tests under Wine; STL=FOLDER of microsoft/STL
 	cmake/visual_cpp/make_sysroot $(BUILD)/visual-cpp-sysroot "$(STL)"
 	cmake --preset visual-cpp
 	cmake --build --preset visual-cpp
@@ -53,7 +53,7 @@ visual-cpp: ## build for Visual C++'s ABI with Clang and run every test under Wi
 	else echo "no host is built against the Windows package: make package has not run"; fi
 
 .PHONY: package
-package: ## pack what a host needs, and the symbols, for Linux and for 64-bit Windows, into build/package
+package: ## write the packages and their symbols, for Linux and for 64-bit Windows, to build/package
 	tools/setup package
 	rm -rf $(BUILD)/package
 	$(MAKE) site
@@ -68,21 +68,21 @@ package: ## pack what a host needs, and the symbols, for Linux and for 64-bit Wi
 	rm -rf $(BUILD)/package/_CPack_Packages
 
 .PHONY: site
-site: ## write the documents as web pages that need no server into build/site
+site: ## write the documents as web pages, which need no server, to build/site
 	tools/setup site
 	mkdocs build --strict --quiet
 
 .PHONY: threads
-threads: ## run the thread tests under the thread sanitizer
+threads: ## run the thread tests with the thread sanitizer
 	tools/setup test
 	cmake --preset thread
 	cmake --build --preset thread --target velora_thread_tests
 	$(BUILD)/thread/bin/velora_thread_tests
 
-# The fuzzer starts from inputs that reach everything and keeps what it learns in the build folder.
+# The fuzzer starts from inputs that call every function and keeps its corpus in the build folder.
 SECONDS := 60
 .PHONY: fuzz
-fuzz: ## let the fuzzer look for trouble, SECONDS=60 long
+fuzz: ## run the fuzzer for SECONDS=60
 	tools/setup fuzz
 	cmake --preset fuzz
 	cmake --build --preset fuzz --target velora_fuzz
@@ -92,7 +92,7 @@ fuzz: ## let the fuzzer look for trouble, SECONDS=60 long
 	  -artifact_prefix=$(BUILD)/fuzz/ -print_final_stats=1 $(BUILD)/fuzz/corpus $(BUILD)/fuzz/first
 
 .PHONY: coverage
-coverage: ## measure which lines of the module's folders the tests reach
+coverage: ## measure which lines of the module the tests execute
 	tools/setup coverage
 	cmake --preset coverage
 	cmake --build --preset coverage --target velora_tests
@@ -100,39 +100,39 @@ coverage: ## measure which lines of the module's folders the tests reach
 	gcovr --root . --filter '(binding|records|events|wrappers|constants|download|module)/' --exclude-throw-branches \
 	  --print-summary --html-details $(BUILD)/coverage/index.html $(BUILD)/coverage
 
-# Debian's Python, for which Debian's matplotlib is installed.
+# Uses Debian's Python, since Debian's matplotlib is installed.
 .PHONY: bench
-bench: ## measure the module against hand-written bindings, and chart it in docs/
+bench: ## compare the module with hand-written bindings, and write table and chart to docs/
 	tools/setup bench
 	cmake --preset bench
 	cmake --build --preset bench --target velora_bench
 	/usr/bin/python3 bench/report.py $(BUILD)/bench/bin/velora_bench $(BUILD)/bench docs
 
 .PHONY: reference
-reference: ## write the pages of docs/reference/ from the annotations in types/
+reference: ## write docs/reference/ from the annotations in types/
 	tools/setup test
 	tools/make_reference
 
-# The files in the repository that match, of which there must be some.
+# Returns the files in the repository that match. An error if there are none.
 sources = $(or $(shell git ls-files $(1)),$(error git lists no sources))
 
 .PHONY: format format-check
-format: ## lay the sources out with clang-format
+format: ## format the sources with clang-format
 	tools/setup test
 	clang-format -i $(call sources,'*.c' '*.cpp' '*.h')
-format-check: ## fail where clang-format would change something
+format-check: ## fail if clang-format would change a source
 	tools/setup test
 	clang-format --dry-run --Werror $(call sources,'*.c' '*.cpp' '*.h')
 
-# Every source of the module, the offline runtime and the player, with the headers that they include.
-# -fno-caret-diagnostics keeps clang from counting the warnings of system headers, which nobody sees.
+# Checks the sources of the module, the offline runtime and the player, with the headers that they include.
+# -fno-caret-diagnostics keeps clang from printing the number of suppressed warnings in system headers.
 .PHONY: lint
-lint: ## let clang-tidy look for faults in the sources; .clang-tidy says which
+lint: ## run clang-tidy on the sources, with the checks in .clang-tidy
 	tools/setup lint
 	cmake --preset lint
 	printf '%s\n' $(call sources,'*.cpp' ':!bench' ':!cmake' ':!examples' ':!tests') | \
 	  xargs -P $$(nproc) -n 1 clang-tidy -p $(BUILD)/lint --quiet --extra-arg=-fno-caret-diagnostics
 
 .PHONY: clean
-clean: ## remove everything that was built
+clean: ## remove the build folder
 	rm -rf $(BUILD)
