@@ -1,6 +1,6 @@
-// A fuzz target whose input is a program: calls of every function that a script sees, with every kind of argument;
-// events; calls of the download handler; frames; collections; allocations that fail. Whatever the program, the host
-// must stay sound and everything must be given back at its end.
+// A fuzz target whose input is a program: calls of all functions that a script sees, with all kinds of arguments;
+// events; calls of the download handler; frames; collections; failing allocations. No program may break the host, and
+// at its end all memory must have been freed.
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -15,7 +15,7 @@ namespace {
 namespace offline = tarn::velora::offline;
 using namespace tarn::velora;
 
-// The input, byte by byte; zeros once it is used up.
+// Reads the input byte by byte, then zeros.
 class Program {
  public:
   Program(const std::uint8_t* data, std::size_t size) : next_(data), end_(data + size) {}
@@ -23,7 +23,7 @@ class Program {
   unsigned Byte() { return Done() ? 0 : *next_++; }
   unsigned Below(unsigned bound) { return Byte() % bound; }
 
-  bool shortage = false;  // memory runs out, or has
+  bool failsAllocations = false;  // from RunOutOfMemory to RestoreMemory
 
  private:
   const std::uint8_t* next_;
@@ -54,16 +54,16 @@ int Enter(lua_State* L) {
   return 0;
 }
 
-// Runs `step` as a host would, ready for a memory error or a finaliser's.
+// Runs `step` as a host does, in protected mode: a memory error, or one of a finalizer, may leave it.
 template <lua_CFunction step>
-void Protected(lua_State* L, Program&) {
+void RunStep(lua_State* L, Program&) {
   lua_pushcfunction(L, step);
   if (lua_pcall(L, 0, 0, 0) != LUA_OK) lua_pop(L, 1);
 }
 
 void CallHandler(lua_State*, Program& program) {
   auto& handler = luavelora::downloadHandler;
-  if (handler.state() == nullptr || program.shortage) return;
+  if (handler.state() == nullptr || program.failsAllocations) return;
   std::string text(program.Below(9), ' ');
   for (char& byte : text) byte = static_cast<char>(program.Byte());
   const char* shown = program.Below(2) == 0 ? nullptr : text.c_str();
@@ -77,13 +77,13 @@ void CallHandler(lua_State*, Program& program) {
   }
 }
 
-void RunOut(lua_State*, Program& program) {
-  program.shortage = true;
+void RunOutOfMemory(lua_State*, Program& program) {
+  program.failsAllocations = true;
   tests::memory::FailAfter(static_cast<long>(program.Byte()));
 }
 
-void EndShortage(lua_State*, Program& program) {
-  program.shortage = false;
+void RestoreMemory(lua_State*, Program& program) {
+  program.failsAllocations = false;
   tests::memory::Restore();
 }
 
@@ -96,13 +96,13 @@ void PostEvent(lua_State*, Program& program) {
 }
 
 constexpr void (*kInstructions[])(lua_State*, Program&) = {
-    Protected<Enter<UpdateLuaVelora>>, Protected<Enter<DeinitLuaVelora>>, CallHandler, RunOut, EndShortage,
-    Protected<Enter<InitLuaVelora>>, Protected<Script<kCall>>, Protected<Script<kCall>>, Protected<Script<kCall>>,
-    // Not while memory runs out: the shortage is for the module.
-    Protected<Script<kListen>>, SetPause, Protected<Collect>, PostEvent, PostEvent, PostEvent, PostEvent};
+    RunStep<Enter<UpdateLuaVelora>>, RunStep<Enter<DeinitLuaVelora>>, CallHandler, RunOutOfMemory, RestoreMemory,
+    RunStep<Enter<InitLuaVelora>>, RunStep<Script<kCall>>, RunStep<Script<kCall>>, RunStep<Script<kCall>>,
+    // Not while allocations fail: these use memory outside the module.
+    RunStep<Script<kListen>>, SetPause, RunStep<Collect>, PostEvent, PostEvent, PostEvent, PostEvent};
 constexpr unsigned kFirstThatNeedsMemory = 9;
 
-void Demand(bool condition, const char* what) {
+void Require(bool condition, const char* what) {
   if (condition) return;
   std::fprintf(stderr, "broken: %s\n", what);
   std::abort();
@@ -122,18 +122,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     lua_pushlightuserdata(host.L, &program);
     lua_pushcclosure(host.L, Byte, 1);
     lua_setglobal(host.L, "byte");
-    Demand(host.RunFile("fuzz.lua").empty(), "prelude");
+    Require(host.RunFile("fuzz.lua").empty(), "prelude");
     while (!program.Done()) {
       const unsigned instruction = program.Below(std::size(kInstructions));
-      if (!program.shortage || instruction < kFirstThatNeedsMemory) kInstructions[instruction](host.L, program);
+      if (!program.failsAllocations || instruction < kFirstThatNeedsMemory) kInstructions[instruction](host.L, program);
     }
     tests::memory::Restore();
-    for (int i = 0; i < 3; ++i) Protected<Collect>(host.L, program);  // finalisers that raise come out here
-    Demand(lua_gettop(host.L) == 0, "stack height");
-    Demand(host.Run("return type(velora.isInit())") == "\"boolean\"", "the state after all");
+    for (int i = 0; i < 3; ++i) RunStep<Collect>(host.L, program);  // runs the remaining finalizers, even if some raise
+    Require(lua_gettop(host.L) == 0, "stack height");
+    Require(host.Run("return type(velora.isInit())") == "\"boolean\"", "the state does not work any more");
   }
   offline::Reset();
-  Demand(offline::LiveRecords() == 0, "a record is left");
-  Demand(tests::memory::LuaBlocksInUse() == 0, "a Lua block is left");
+  Require(offline::LiveRecords() == 0, "a record is not freed");
+  Require(tests::memory::LuaBlocksInUse() == 0, "a Lua block is not freed");
   return 0;
 }
