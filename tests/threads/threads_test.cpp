@@ -1,5 +1,5 @@
-// Many threads post events while frames run: each is delivered exactly once and in its thread's order, and records
-// live as long as their last owner. Run it under the thread sanitizer (make test does).
+// Threads post events while frames run. Each event must be delivered once and in its thread's order, and records must
+// live as long as their last owner. To be run with the thread sanitizer, as make test does.
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -17,11 +17,11 @@ using namespace tarn::velora;
 using Threads = VeloraTest;
 
 TEST_F(Threads, EveryEventArrivesOnceAndInItsThreadsOrder) {
-  // Each thread posts codes under a type of its own, and an order after every hundredth.
+  // Each thread posts codes with an event type of its own, and an order after every hundredth.
   constexpr int kTypes[] = {14, 15, 16, 19};
   constexpr int kEventsPerThread = 250000;
   constexpr int kOrderEvery = 100;
-  constexpr int kFrameEvery = kEventsPerThread / 20;  // so often a thread lets a frame pass, however slow frames are
+  constexpr int kFrameEvery = kEventsPerThread / 20;  // after so many events a thread waits for a frame
   Host host;
   ASSERT_EQ(host.RunFile("threads.lua"), "");
   std::atomic<int> running{static_cast<int>(std::size(kTypes))};
@@ -58,8 +58,8 @@ TEST_F(Threads, EveryEventArrivesOnceAndInItsThreadsOrder) {
   EXPECT_EQ(offline::LiveRecords(), 0u);
 }
 
-// The runtime's own thread replies while scripts run and while it is stopped and started.
-TEST_F(Threads, AnswersAndStopsMayMeet) {
+// The runtime's own thread queues events while scripts run and while it is stopped and started.
+TEST_F(Threads, RepliesWhileTheRuntimeIsStopped) {
   Host host;
   host.Run("answers = 0 velora.setOnLoginDone(function() answers = answers + 1 end)");
   for (int i = 0; i < 50; ++i) {
