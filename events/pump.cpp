@@ -36,8 +36,8 @@ void ResumeCollector(lua_State* L, Pass& pass) {
   if (std::exchange(pass.collectorPaused, false)) lua_gc(L, LUA_GCRESTART, 0);
 }
 
-// Calls the function on top of the stack with the event's arguments and pops it. Logs an error of the function. Once the
-// function is called, this raises nothing.
+// Calls the function on top of the stack with the event's arguments and pops it. Logs an error of the function. Once
+// the function is called, this raises nothing.
 template <class Layout>
 void Deliver(lua_State* L, ModuleState& state, Pass& pass, const Event& event) {
   const int arguments = PushArguments(L, state, static_cast<const Layout&>(event));

@@ -18,8 +18,8 @@ using Soak = VeloraTest;
 
 constexpr int kFrames = 200000;
 
-// Returns the memory in use after the runtime's last event has arrived, without call and log lines that nobody took, the
-// runtime's list of orders and the garbage of scripts. Each collection halves Lua's string table once.
+// Returns the memory in use after the runtime's last event has arrived, without call and log lines that nobody took,
+// the runtime's list of orders and the garbage of scripts. Each collection halves Lua's string table once.
 long Settle(Host& host) {
   for (std::string received; received != host.Run("return total()");) {
     received = host.Run("return total()");
