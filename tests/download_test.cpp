@@ -136,7 +136,7 @@ TEST_F(Download, TheLastStateThatRegistersWins) {
   EXPECT_EQ(luavelora::downloadHandler.state(), nullptr);
 }
 
-// What was made before the module's start is finalised after the state has been forgotten.
+// What was made before the module's start is finalized after the state has been forgotten.
 TEST_F(Download, NothingRegistersWhileTheStateCloses) {
   Host late(false);
   late.Run(

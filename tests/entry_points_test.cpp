@@ -109,13 +109,13 @@ TEST_F(EntryPoints, DeinitEmptiesTheSlotsAndNothingElse) {
   EXPECT_TRUE(offline::TakeLog().empty());
 }
 
-// Nothing is made after Init, so no finaliser runs.
-TEST_F(EntryPoints, DeinitRaisesNoErrorOfAFinaliser) {
+// Nothing is made after Init, so no finalizer runs.
+TEST_F(EntryPoints, DeinitRaisesNoErrorOfAFinalizer) {
   for (const bool initialise : {true, false}) {
     host.Open(initialise);
     host.Run(
         "collectgarbage('stop') collectgarbage('setpause', 0) collectgarbage('setstepmul', 1000000) "
-        "setmetatable({}, {__gc = function() error('from the grave') end})");
+        "setmetatable({}, {__gc = function() error('finalizer') end})");
     lua_pushcfunction(host.L, [](lua_State* L) {
       lua_gc(L, LUA_GCRESTART, 0);
       DeinitLuaVelora(L);

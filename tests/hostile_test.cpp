@@ -1,5 +1,5 @@
-// Scripts that mean harm: finalisers and callbacks that raise or call back at the worst moment, and an SDK that throws
-// or calls into scripts in the middle of a wrapper.
+// Hostile scripts: finalizers and callbacks that raise errors or call back at the worst moment; and an SDK that throws
+// or calls scripts in the middle of a wrapper.
 #include <gtest/gtest.h>
 
 #include <set>
@@ -16,28 +16,29 @@ namespace {
 namespace offline = tarn::velora::offline;
 using namespace tarn::velora;
 
-// What the SDK's operations do at their start, the first few left out; a script is called once.
-enum class Deed { kNothing, kThrow, kRunOutOfMemory, kCallScript } deed = Deed::kNothing;
+// What each operation of the SDK does first, after some that do nothing. kCallScript happens once.
+enum class Fault { kNothing, kThrow, kRunOutOfMemory, kCallScript } fault = Fault::kNothing;
 
-std::set<std::string> hooked;  // the operations that did it
-bool justNow = false;          // one did since the deed was set
-lua_Integer leftOut = 0;
+std::set<std::string> hooked;  // the operations that had a fault
+bool hadFault = false;         // since the last InjectFault
+lua_Integer skipped = 0;
 
 void Hook(const char* operation) {
-  if (deed == Deed::kNothing || leftOut-- > 0) return;
+  if (fault == Fault::kNothing || skipped-- > 0) return;
   hooked.insert(operation);
-  justNow = true;
-  if (deed == Deed::kThrow) throw std::runtime_error("the SDK broke: 100% s");
-  if (deed == Deed::kRunOutOfMemory) throw std::bad_alloc();
-  deed = Deed::kNothing;
+  hadFault = true;
+  if (fault == Fault::kThrow) throw std::runtime_error("the SDK broke: 100% s");
+  if (fault == Fault::kRunOutOfMemory) throw std::bad_alloc();
+  fault = Fault::kNothing;
   luavelora::downloadHandler.onProgress(operation);
 }
 
-// deed(n, k) lets the SDK do Deed n from then on, k operations left out, and tells whether one did the deed before.
-int SetDeed(lua_State* L) {
-  deed = static_cast<Deed>(luaL_checkinteger(L, 1));
-  leftOut = luaL_optinteger(L, 2, 0);
-  lua_pushboolean(L, std::exchange(justNow, false));
+// inject(n, k) injects Fault n into all operations but the next k. Returns whether an operation has had a fault since
+// the last call.
+int InjectFault(lua_State* L) {
+  fault = static_cast<Fault>(luaL_checkinteger(L, 1));
+  skipped = luaL_optinteger(L, 2, 0);
+  lua_pushboolean(L, std::exchange(hadFault, false));
   return 1;
 }
 
@@ -46,9 +47,9 @@ class Hostile : public HostTest {
   void SetUp() override {
     VeloraTest::SetUp();
     offline::SetCallHook(Hook);
-    deed = Deed::kNothing;
+    fault = Fault::kNothing;
     hooked.clear();
-    lua_register(host.L, "deed", SetDeed);
+    lua_register(host.L, "inject", InjectFault);
     EXPECT_EQ(host.RunFile("hostile.lua"), "");
   }
 
@@ -57,8 +58,8 @@ class Hostile : public HostTest {
     HostTest::TearDown();
   }
 
-  // While the collector rests, since what haunts may raise in any script.
-  void StopHaunting() {
+  // Stops the collector, since the finalizers may raise in any script.
+  void StopFinalizers() {
     lua_gc(host.L, LUA_GCSTOP, 0);
     EXPECT_EQ(host.Run("stop()"), "");
     lua_gc(host.L, LUA_GCRESTART, 0);
@@ -73,9 +74,9 @@ class Hostile : public HostTest {
   }
 };
 
-TEST_F(Hostile, FinalisersThatRaiseOrInterfereWhileTheModuleWorks) {
+TEST_F(Hostile, FinalizersThatRaiseOrInterfereWhileTheModuleWorks) {
   for (const char* action : {
-           "error('finaliser')",
+           "error('finalizer')",
            "error({})",
            "share:set_textMsg{a = 'b'} share:set_toUserList{'x'} product:set_sdkPids{c = 'd'} order:set_aid('z')",
            "velora.OrderInfo.__gc(order) velora.ShareInfo.__gc(share) velora.ProductInfo.__gc(product)",
@@ -83,7 +84,7 @@ TEST_F(Hostile, FinalisersThatRaiseOrInterfereWhileTheModuleWorks) {
            "velora.setOnLoginDone(print) velora.download.setSyncDownloadHandler()",
            "velora.download.setSyncDownloadHandler{onInited = noop, onProgress = noop, onFinish = noop}",
        }) {
-    EXPECT_EQ(host.Run(std::string("return callWithFinaliser(function() ") + action + " end)"),
+    EXPECT_EQ(host.Run(std::string("return callWithFinalizer(function() ") + action + " end)"),
               std::string("true, ") + (std::string_view(action).starts_with("error") ? "true" : "false"))
         << action;
     ExpectSound();
@@ -101,32 +102,32 @@ TEST_F(Hostile, TablesThatChangeWhileTheyAreRead) {
   EXPECT_EQ(host.Run("share:set_toUserList(setmetatable({'a'}, {__len = function() velora.ShareInfo.__gc(share) "
                      "return 1 end})) return share:get_toUserList()"),
             "");
-  EXPECT_EQ(host.Run("local t = {} for i = 1, 100 do t[i] = i + 0.5 end haunt(function() for k in pairs(t) "
+  EXPECT_EQ(host.Run("local t = {} for i = 1, 100 do t[i] = i + 0.5 end runInFinalizers(function() for k in pairs(t) "
                      "do t[k] = nil end end) velora.zvDeleteInviters(t) product:set_sdkPids(t)"),
             "");
-  StopHaunting();
+  StopFinalizers();
   ExpectSound();
 }
 
-// Each event layout, while every allocation may run a finaliser that raises: each event reaches its callback once, and
+// Each event layout, while every allocation may run a finalizer that raises: each event reaches its callback once, and
 // is held up once at most.
-TEST_F(Hostile, FinalisersThatRaiseWhileThePumpBuildsArguments) {
+TEST_F(Hostile, FinalizersThatRaiseWhileThePumpBuildsArguments) {
   host.Run(
       "seen = 0 for name, f in pairs(velora) do if name:find('^setOn') then f(function() seen = seen + "
       "(collectgarbage('isrunning') and 1 or 0) end) end end "
-      "haunt(function() error('from the grave', 0) end)");
+      "runInFinalizers(function() error('finalizer', 0) end)");
   constexpr int kEvents = 600;
   for (int i = 1; i < kEvents; ++i) offline::Post(MakeEvent(i % luavelora::kEventTypes, true));
   auto list = std::make_shared<AccountListEvent>(41);
   list->accounts.assign(1000, offline::MakeAccount({}));  // so long that the collector would finish cycles each time
   offline::Post(std::move(list));
   EXPECT_EQ(host.Frame(), "");
-  StopHaunting();
+  StopFinalizers();
   const auto lines = offline::TakeLog();
   EXPECT_GT(lines.size(), 0u);
   EXPECT_LE(lines.size(), std::size_t{kEvents});
   for (const std::string& line : lines)
-    EXPECT_EQ(line, "[VELORA] 0 [Velora callback err] error in __gc metamethod (from the grave)");
+    EXPECT_EQ(line, "[VELORA] 0 [Velora callback err] error in __gc metamethod (finalizer)");
   EXPECT_EQ(host.Run("return seen, collectgarbage('isrunning')"), std::to_string(kEvents) + ", true");
   ExpectSound();
 }
@@ -135,14 +136,14 @@ TEST_F(Hostile, FinalisersThatRaiseWhileThePumpBuildsArguments) {
 // undone.
 TEST_F(Hostile, AnSdkThatThrows) {
   for (const auto& [what, text] :
-       {std::pair{Deed::kThrow, "the SDK broke: 100% s"}, {Deed::kRunOutOfMemory, "not enough memory"}}) {
+       {std::pair{Fault::kThrow, "the SDK broke: 100% s"}, {Fault::kRunOutOfMemory, "not enough memory"}}) {
     EXPECT_EQ(host.Run("callWhatFails(" + std::to_string(static_cast<int>(what)) + ", '" + text + "')"), "");
     ExpectSound();
   }
   EXPECT_GT(hooked.size(), 250u);
-  deed = Deed::kThrow;
+  fault = Fault::kThrow;
   EXPECT_EQ(host.Frame(), "the SDK broke: 100% s");
-  deed = Deed::kNothing;
+  fault = Fault::kNothing;
 }
 
 // What a broken SDK hands over, and a log library that throws in place of taking a line.
@@ -179,17 +180,17 @@ TEST_F(Hostile, AnSdkThatCallsScriptsInTheMiddleOfACall) {
   EXPECT_GT(hooked.size(), 250u);
 }
 
-// With no memory for the call of a finaliser, Lua drops it; the record goes when the state closes. Afterwards no object
-// of any class answers, though its own finaliser never ran, and none is made.
-TEST_F(Hostile, FinalisersThatFindNoMemory) {
+// With no memory for the call of a finalizer, Lua drops it; the record goes when the state closes. Afterwards no object
+// of any class is valid, though its own finalizer never ran, and none can be created.
+TEST_F(Hostile, FinalizersThatFindNoMemory) {
   host.Open(false);
-  static int answers;
-  answers = 0;
-  lua_register(host.L, "answered", [](lua_State*) {
-    ++answers;
+  static int used;
+  used = 0;
+  lua_register(host.L, "used", [](lua_State*) {
+    ++used;
     return 0;
   });
-  EXPECT_EQ(host.RunFile("late_finalisers.lua"), "");
+  EXPECT_EQ(host.RunFile("late_finalizers.lua"), "");
   InitLuaVelora(host.L);
   host.Run("velora.setOnControllerStateEvent(function(pad) weak[pad] = true end)");
   lua_State* L = host.L;
@@ -217,28 +218,28 @@ TEST_F(Hostile, FinalisersThatFindNoMemory) {
     EXPECT_EQ(host.Run(std::string("return count('") + type + "')"), "20") << type;
   }
   host.Close();
-  EXPECT_EQ(answers, 0);
+  EXPECT_EQ(used, 0);
   EXPECT_EQ(offline::LiveRecords(), 0u);
 }
 
-// Finalisers that collect while the state closes run the module's own closing in the middle of what they do. No cycle
-// may be under way then: Lua 5.3 itself loops for ever where lua_close interrupts a sweep and a finaliser collects.
-TEST_F(Hostile, FinalisersThatCollectWhileTheStateCloses) {
+// Finalizers that collect while the state closes run the module's own closing in the middle of what they do. No cycle
+// may be under way then: Lua 5.3 itself loops forever if lua_close interrupts a sweep and a finalizer collects.
+TEST_F(Hostile, FinalizersThatCollectWhileTheStateCloses) {
   for (const char* action : {
            "local s = velora.ShareInfo.new('late') s:set_toUserList(setmetatable({'a'}, {__len = function() "
            "collectgarbage() return 1 end}))",
            "collectgarbage('restart') collectgarbage('setpause', 0) for i = 1, 50 do velora.OrderInfo.new('x') end",
            "collectgarbage('restart') velora.zvGetCheckedOrders()",
-           "local o = velora.OrderInfo.new('x') deed(3) velora.zvCheckOrder(o) o:set_aid(1.5)",
-           "deed(3, 1) velora.ShareInfo.new('late')",  // while the holder reads the record
+           "local o = velora.OrderInfo.new('x') inject(3) velora.zvCheckOrder(o) o:set_aid(1.5)",
+           "inject(3, 1) velora.ShareInfo.new('late')",  // while the holder reads the record
        }) {
     host.Open();
-    lua_register(host.L, "deed", SetDeed);
+    lua_register(host.L, "inject", InjectFault);
     offline::SetCheckedOrders(std::vector(5000, offline::MakeOrder({})));
     host.Run(
         "velora.download.setSyncDownloadHandler{onInited = print, onFinish = print, "
         "onProgress = function() collectgarbage() end}");
-    // More finalisers than a few steps of the collector run, so that the closing comes in the middle of a list.
+    // More finalizers than a few steps of the collector run, so that the closing comes in the middle of a list.
     host.Run("objects = {} for i = 1, 1000 do objects[i] = velora.OrderInfo.new('x') end");
     host.Run(std::string("planted = setmetatable({}, {__gc = function() ") + action + " end})");
     lua_gc(host.L, LUA_GCCOLLECT, 0);
@@ -261,11 +262,11 @@ TEST_F(Hostile, AnObjectThatOutlivesTheClosing) {
   EXPECT_EQ(offline::LiveRecords(), 0u);
 }
 
-// A finaliser that sets a handler of its own in the middle of setting one: whoever comes last wins, nothing is mixed.
+// A finalizer that sets a handler of its own in the middle of setting one: whoever comes last wins, nothing is mixed.
 TEST_F(Hostile, HandlersSetWhileAHandlerIsSet) {
   host.Run(
       "good = {onInited = noop, onProgress = noop, onFinish = noop} "
-      "haunt(function() velora.download.setSyncDownloadHandler(good) end)");
+      "runInFinalizers(function() velora.download.setSyncDownloadHandler(good) end)");
   for (const char* call : {"velora.download.setSyncDownloadHandler()",
                            "pcall(velora.download.setSyncDownloadHandler, {onInited = print})"}) {
     for (int i = 0; i < 50; ++i) {
@@ -279,7 +280,7 @@ TEST_F(Hostile, HandlersSetWhileAHandlerIsSet) {
     EXPECT_TRUE(offline::Handlers().empty()) << call;
     lua_gc(host.L, LUA_GCRESTART, 0);
   }
-  StopHaunting();
+  StopFinalizers();
 }
 
 }  // namespace

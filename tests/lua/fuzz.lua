@@ -14,9 +14,9 @@ local function keep(...)
     if v ~= nil then pool[#pool % 32 + 1] = v end
   end
 end
-local deeds = {
+local callbacks = {
   keep,
-  function() error("deed") end,
+  function() error("fault") end,
   function() error({}) end,
   function() collectgarbage() end,
   function() for _, v in ipairs(pool) do if type(v) == "userdata" then
@@ -25,10 +25,10 @@ local deeds = {
   function() local v = pool[1] if type(v) == "userdata" and v.set_textMsg then v:set_textMsg{a = "b"} end end,
   function() velora.download.setSyncDownloadHandler() end,
   function() velora.zvLogin() velora.setOnLoginDone(error) end,
-  function() setmetatable({}, {__gc = function() error("finaliser") end}) end,
+  function() setmetatable({}, {__gc = function() error("finalizer") end}) end,
   function() keep(velora.ShareInfo.new(), velora.OrderInfo.new(1.5)) end,
 }
-local handler = {onInited = deeds[1], onProgress = deeds[2], onFinish = deeds[4]}
+local handler = {onInited = callbacks[1], onProgress = callbacks[2], onFinish = callbacks[4]}
 local claimed
 local claims = setmetatable({"a", 2.5}, {__len = function() return claimed end})
 local value
@@ -54,7 +54,7 @@ local makers = {
     end
     return t
   end,
-  function() return deeds[below(#deeds) + 1] end,
+  function() return callbacks[below(#callbacks) + 1] end,
   function() claimed = byte() - 20 return claims end,
   function() return handler end,
   fromPool, fromPool, fromPool,
@@ -77,6 +77,6 @@ function call()
   finish(pcall(f, table.unpack(values, 1, n)))
 end
 function listen()
-  local deed = deeds[below(#deeds) + 1]
-  for name, set in pairs(velora) do if name:find("^setOn") then set(deed) end end
+  local fault = callbacks[below(#callbacks) + 1]
+  for name, set in pairs(velora) do if name:find("^setOn") then set(fault) end end
 end

@@ -1,10 +1,10 @@
--- What the hostile tests share. deed(n, k) is theirs: from then on the SDK does their n-th deed, k operations left out;
--- it tells whether one did the deed before.
+-- Shared by the hostile tests, which define inject(n, k): injects their n-th fault into all operations of the SDK but the
+-- next k, and returns whether an operation has had a fault since the last call.
 order, share, product = velora.OrderInfo.new("o"), velora.ShareInfo.new("s"), velora.ProductInfo.new()
 function noop() end
 
 -- Runs `action` whenever the collector finishes a cycle, which it does at every chance, until `stop` is called.
-function haunt(action)
+function runInFinalizers(action)
   local function plant() setmetatable({}, {__gc = function() if action then plant() action() end end}) end
   function stop() action = nil collectgarbage("setpause", 200) collectgarbage("setstepmul", 200) end
   collectgarbage("setpause", 0) collectgarbage("setstepmul", 1000000)
@@ -46,14 +46,14 @@ local function callAll(call)
   end
 end
 
--- The collector runs in the module's own functions only, and finishes a cycle, with `deed` at its end, as soon as one
--- of them allocates. Returns whether there were many calls, and whether many raised the finaliser's error.
-function callWithFinaliser(finaliser)
+-- The collector runs in the module's own functions only, and finishes a cycle, with `finalizer` at its end, as soon as one
+-- of them allocates. Returns whether there were many calls, and whether many raised the finalizer's error.
+function callWithFinalizer(finalizer)
   collectgarbage("stop") collectgarbage("setpause", 0) collectgarbage("setstepmul", 1000000)
   local calls, raised, action = 0, 0, noop
   local function finish() action() end
   callAll(function(_, f, ...)
-    calls, action = calls + 1, finaliser
+    calls, action = calls + 1, finalizer
     setmetatable({}, {__gc = finish})
     collectgarbage("restart")
     local ok, message = pcall(f, ...)
@@ -69,23 +69,23 @@ end
 -- Lets each operation fail in turn, which must raise an error with `text` in it.
 function callWhatFails(failure, text)
   callAll(function(k, f, ...)
-    deed(failure, k)
+    inject(failure, k)
     local ok, message = pcall(f, ...)
-    local failed = deed(0)
+    local failed = inject(0)
     assert(not failed or not ok and message:find(text, 1, true), message)
     return failed
   end)
   local download, handler = velora.download, {onInited = noop, onProgress = noop, onFinish = noop}
   for k = 0, 2 do -- until the old handler is removed, it stays
     download.setSyncDownloadHandler(handler)
-    deed(failure, k)
+    inject(failure, k)
     assert(not pcall(download.setSyncDownloadHandler, {onInited = print, onProgress = print, onFinish = print}))
     local kept = download.getSyncDownloadHandler()
-    assert(deed(0) and (kept and kept.onInited) == (k < 2 and noop or nil))
+    assert(inject(0) and (kept and kept.onInited) == (k < 2 and noop or nil))
   end
 end
 
--- Lets each operation call a script, by deed `callScript`, which takes away all that the call works with.
+-- Makes each operation call a script, with the fault `callScript`, that finalizes and clears all that the call uses.
 function callWhatCallsBack(callScript)
   local handler = {onInited = noop, onFinish = noop, onProgress = function()
     share:set_linkParams{k = "v"} share:set_toUserList{"b"} product:set_sdkPids{}
@@ -96,20 +96,20 @@ function callWhatCallsBack(callScript)
   end}
   callAll(function(k, f, ...)
     velora.download.setSyncDownloadHandler(handler)
-    deed(callScript, k)
+    inject(callScript, k)
     pcall(f, ...)
-    local called = deed(0)
+    local called = inject(0)
     assert(not called or f == velora.download.setSyncDownloadHandler or
       select("#", order:get_aid()) + select("#", share:get_title()) == 0 and not product:get_productId())
     return called
   end)
   product = velora.ProductInfo.new()
-  deed(callScript, 2) -- when the handler is there
+  inject(callScript, 2) -- when the handler is there
   velora.download.setSyncDownloadHandler{onInited = noop, onFinish = noop, onProgress = function()
     product:set_productName("inner")
   end}
   local early = product:get_productName()
   product:set_productName("outer")
-  deed(callScript)
-  return early, tostring(product):find("outer") ~= nil, deed(0), product:get_productName()
+  inject(callScript)
+  return early, tostring(product):find("outer") ~= nil, inject(0), product:get_productName()
 end

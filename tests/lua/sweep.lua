@@ -16,7 +16,7 @@ function nest() return select(2, string.gsub("x", "x", nest)) end
 function nothing() end
 function plant()
   collectgarbage("stop") collectgarbage("setpause", 0) collectgarbage("setstepmul", 1000000)
-  setmetatable({}, {__gc = function() error("finaliser") end})
+  setmetatable({}, {__gc = function() error("finalizer") end})
 end
 function restart() collectgarbage("restart") end
 
