@@ -64,6 +64,7 @@ struct ModuleState {
 
 template <class Object, class... Arguments>
 Object* ModuleState::Create(Arguments&&... arguments) {
+  if (closed) return nullptr;
   Pool& pool = pools_[Object::kClass];
   if (pool.open == nullptr) [[unlikely]] {
     new SlabOf<Object>(pool);

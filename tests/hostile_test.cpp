@@ -231,6 +231,7 @@ TEST_F(Hostile, FinalizersThatCollectWhileTheStateCloses) {
            "collectgarbage('restart') collectgarbage('setpause', 0) for i = 1, 50 do velora.OrderInfo.new('x') end",
            "collectgarbage('restart') velora.zvGetCheckedOrders()",
            "local o = velora.OrderInfo.new('x') inject(3) velora.zvCheckOrder(o) o:set_aid(1.5)",
+           "inject(3) velora.OrderInfo.new('late')",     // before there is a holder
            "inject(3, 1) velora.ShareInfo.new('late')",  // while the holder reads the record
        }) {
     host.Open();

@@ -23,7 +23,7 @@ for _, row in ipairs(rows) do offline.post("OrderCheckDone", {[row[1]] = row[2]}
 
 for _, row in ipairs{{"channelGoodsTypes", {a = "1"}}, {"channelGoodsTypes", {a = 1.5}}, {"channelGoodsTypes", 1},
     {"sdkPids", {a = {}}}, {"sdkPids", {[true] = "a"}}, {"sdkPids", "text"}, {"arrPriceLocaleId", {a = 1}},
-    {"arrPriceLocaleId", "en"}, {"aid", {}}, {"aid", print}, {"count", "1"}, {"count", 1.5}, {"count", 1e300},
+    {"arrPriceLocaleId", "en"}, {"aid", {}}, {"aid", print}, {"count", "1"}, {"count", 1.5}, {"count", 0x1p63},
     {"count", {1}}, {"sdkPids", {"a", print}}} do
   print(select(2, pcall(offline.post, "OrderCheckDone", {[row[1]] = row[2]})))
 end
