@@ -806,7 +806,7 @@ function velora.getOnOrderCosumeDone() end
 ---@field set_orderStatus fun(self: velora.OrderInfo, value: integer) One of `ORDER_*`.
 ---@field get_productCurrentPrice fun(self: velora.OrderInfo): number The current price, in single precision.
 ---@field set_productCurrentPrice fun(self: velora.OrderInfo, value: number) The current price, in single precision.
----@field get_productExchangeRatio fun(self: velora.OrderInfo): number The exchange ratio, as a float: 1.0.
+---@field get_productExchangeRatio fun(self: velora.OrderInfo): number The exchange ratio, a float: 1.0 if it is 1.
 ---@field get_productId fun(self: velora.OrderInfo): string? The product's id.
 ---@field set_productId fun(self: velora.OrderInfo, value: velora.Text) The product's id.
 ---@field get_productName fun(self: velora.OrderInfo): string? The product's name.
