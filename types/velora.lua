@@ -187,78 +187,78 @@ function velora.getOnRegister() end
 -- Integers: values of the property `LOGIN_STAT`.
 
 ---@class velora
----@field E_LS_NOT_LOGIN integer Value of `LOGIN_STAT`: not logged in. The value is the SDK's.
----@field E_LS_LOGIN_OK integer Value of `LOGIN_STAT`: logged in. The value is the SDK's.
----@field E_LS_NEED_GS_CONFIRM integer Value of `LOGIN_STAT`: the game server must confirm. The value is the SDK's.
+---@field E_LS_NOT_LOGIN integer Value of `LOGIN_STAT`: not logged in. The SDK defines the value.
+---@field E_LS_LOGIN_OK integer Value of `LOGIN_STAT`: logged in. The SDK defines the value.
+---@field E_LS_NEED_GS_CONFIRM integer Value of `LOGIN_STAT`: the game server must confirm. The SDK defines the value.
 
 -- ### Login channel codes
 -- Integers: codes of the login channels.
 
 ---@class velora
----@field AUTH_UNLOGIN integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_NATIVE integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_GUEST integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_WEIBO integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_FACEBOOK integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_GOOGLE integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_MOBILE integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_QQ integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_WEIXIN integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_DUOKU integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_91 integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_BEETALK integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_KAKAO integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_TWITTER integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_DMM integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_STEAM integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_AMAZONE integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_LINE integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_LINE_GAME integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_BATTLE integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_PELIA integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_PSN integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_XIANLIAO integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_NINTENDO integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_DOUYIN integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_MOBILE_NOT_ZORVANE integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_APPLE integer Login channel code. Value and meaning are the SDK's.
----@field AUTH_MOWANG integer Login channel code. Value and meaning are the SDK's.
+---@field AUTH_UNLOGIN integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_NATIVE integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_GUEST integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_WEIBO integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_FACEBOOK integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_GOOGLE integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_MOBILE integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_QQ integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_WEIXIN integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_DUOKU integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_91 integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_BEETALK integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_KAKAO integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_TWITTER integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_DMM integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_STEAM integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_AMAZONE integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_LINE integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_LINE_GAME integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_BATTLE integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_PELIA integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_PSN integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_XIANLIAO integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_NINTENDO integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_DOUYIN integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_MOBILE_NOT_ZORVANE integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_APPLE integer Login channel code. The SDK defines value and meaning.
+---@field AUTH_MOWANG integer Login channel code. The SDK defines value and meaning.
 
 -- ### Login channel names
 -- Strings: names of the login channels, to compare with `getAuthTypeName`.
 
 ---@class velora
----@field ZV_AUTH_NAME_UNLOGIN string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_NATIVE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_GUEST string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_WEIBO string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_FACEBOOK string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_GameCenter string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_WECHAT string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_GARENA string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_BEETALK string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_QQ string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_GOOGLE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_JOYBOMB string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_MOBILE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_DUOKU string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_91 string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_KAKAO string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_TWITTER string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_DMM string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_STEAM string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_AMAZON string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_LINE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_LINE_GMAE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_BATTLE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_PELIA string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_PSN string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_XIANLIAO string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_NINTENDO string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_DOUYIN string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_MOBILE_NOT_ZORVANE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_APPLE string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
----@field ZV_AUTH_NAME_MOWANG string Login channel name, as from `getAuthTypeName`. The value is the SDK's.
+---@field ZV_AUTH_NAME_UNLOGIN string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_NATIVE string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_GUEST string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_WEIBO string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_FACEBOOK string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_GameCenter string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_WECHAT string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_GARENA string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_BEETALK string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_QQ string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_GOOGLE string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_JOYBOMB string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_MOBILE string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_DUOKU string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_91 string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_KAKAO string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_TWITTER string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_DMM string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_STEAM string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_AMAZON string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_LINE string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_LINE_GMAE string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_BATTLE string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_PELIA string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_PSN string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_XIANLIAO string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_NINTENDO string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_DOUYIN string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_MOBILE_NOT_ZORVANE string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_APPLE string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
+---@field ZV_AUTH_NAME_MOWANG string Login channel name, as from `getAuthTypeName`. The SDK defines the value.
 
 -- ## Account
 
@@ -469,36 +469,36 @@ function velora.zvLumoSetOption(name, value) end
 -- Strings: names of features, for `hasFeature`, and of the properties that switch them.
 
 ---@class velora
----@field MODE_NO_LOGIN string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_LOGOUT string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_MANAGER string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_PAUSE_VIEW string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_NEED_UNITED_LOGIN string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_EXIT_VIEW string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_GUEST string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_GUEST_BIND string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_NATIVE_GUEST_LOGIN string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_FRIEND string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_RANK string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_SHARE string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_MOREGAME_BTN string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_SWITCH_ACCOUNT string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_NEARBY string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_QUERYSKUDETAILS string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_CONVERSATION string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_FAQS string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_ACHIEVEMENT string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_CC_RECORD string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_SWRVE string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_HELPSHIFT string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_GOOGLEGAMESERVICE string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_FEEDBACK string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_SHOWVIEW string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_ANNOUNCEMENT string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_VERIFYMOBILE string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_HAS_QUERYORDER string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_REAL_NAME string Feature name, for `hasFeature`. Value and meaning are the SDK's.
----@field MODE_QR_CODE string Feature name, for `hasFeature`. Value and meaning are the SDK's.
+---@field MODE_NO_LOGIN string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_LOGOUT string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_MANAGER string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_PAUSE_VIEW string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_NEED_UNITED_LOGIN string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_EXIT_VIEW string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_GUEST string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_GUEST_BIND string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_NATIVE_GUEST_LOGIN string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_FRIEND string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_RANK string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_SHARE string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_MOREGAME_BTN string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_SWITCH_ACCOUNT string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_NEARBY string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_QUERYSKUDETAILS string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_CONVERSATION string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_FAQS string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_ACHIEVEMENT string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_CC_RECORD string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_SWRVE string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_HELPSHIFT string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_GOOGLEGAMESERVICE string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_FEEDBACK string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_SHOWVIEW string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_ANNOUNCEMENT string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_VERIFYMOBILE string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_HAS_QUERYORDER string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_REAL_NAME string Feature name, for `hasFeature`. The SDK defines value and meaning.
+---@field MODE_QR_CODE string Feature name, for `hasFeature`. The SDK defines value and meaning.
 
 -- ## Player information
 
@@ -520,65 +520,65 @@ function velora.zvUpLoadUserInfo() end
 -- Strings: keys of the player information. The `USERINFO_STAGE_*` are values of `USERINFO_STAGE`.
 
 ---@class velora
----@field USERINFO_STAGE string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_STAGE_CREATE_ROLE string Value of `USERINFO_STAGE`. Value and meaning are the SDK's.
----@field USERINFO_STAGE_ENTER_SERVER string Value of `USERINFO_STAGE`. Value and meaning are the SDK's.
----@field USERINFO_STAGE_LEVEL_UP string Value of `USERINFO_STAGE`. Value and meaning are the SDK's.
----@field USERINFO_STAGE_FF_SUCESS string Value of `USERINFO_STAGE`. Value and meaning are the SDK's.
----@field USERINFO_STAGE_LEAVE_SERVER string Value of `USERINFO_STAGE`. Value and meaning are the SDK's.
----@field USERINFO_STAGE_ENTER_MAIN string Value of `USERINFO_STAGE`. Value and meaning are the SDK's.
----@field USERINFO_STAGE_CHOOSE_SERVER string Value of `USERINFO_STAGE`. Value and meaning are the SDK's.
----@field USERINFO_UID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_NAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_AID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_GRADE string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_HOSTID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_HOSTNAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_BALANCE string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_BALANCE_ARRAY string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_VIP string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_EXP string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_ROLE_TYPE_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_ROLE_TYPE_NAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_MENPAI_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_MENPAI_NAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_MENPAI_ROLE_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_MENPAI_ROLE_NAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_CAPABILITY string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_GANG_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_GANG_NAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_GANG_ROLE_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_GANG_ROLE_NAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_RANKING string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_ORG string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_REGION_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_REGION_NAME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_ROLE_CTIME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_FRIEND string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_ROLE_LEVELMTIME string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_STAGE string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_STAGE_CREATE_ROLE string Value of `USERINFO_STAGE`. The SDK defines value and meaning.
+---@field USERINFO_STAGE_ENTER_SERVER string Value of `USERINFO_STAGE`. The SDK defines value and meaning.
+---@field USERINFO_STAGE_LEVEL_UP string Value of `USERINFO_STAGE`. The SDK defines value and meaning.
+---@field USERINFO_STAGE_FF_SUCESS string Value of `USERINFO_STAGE`. The SDK defines value and meaning.
+---@field USERINFO_STAGE_LEAVE_SERVER string Value of `USERINFO_STAGE`. The SDK defines value and meaning.
+---@field USERINFO_STAGE_ENTER_MAIN string Value of `USERINFO_STAGE`. The SDK defines value and meaning.
+---@field USERINFO_STAGE_CHOOSE_SERVER string Value of `USERINFO_STAGE`. The SDK defines value and meaning.
+---@field USERINFO_UID string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_NAME string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_AID string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_GRADE string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_HOSTID string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_HOSTNAME string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_BALANCE string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_BALANCE_ARRAY string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_VIP string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_EXP string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_ROLE_TYPE_ID string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_ROLE_TYPE_NAME string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_MENPAI_ID string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_MENPAI_NAME string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_MENPAI_ROLE_ID string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_MENPAI_ROLE_NAME string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_CAPABILITY string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_GANG_ID string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_GANG_NAME string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_GANG_ROLE_ID string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_GANG_ROLE_NAME string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_RANKING string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_ORG string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_REGION_ID string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_REGION_NAME string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_ROLE_CTIME string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_FRIEND string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_ROLE_LEVELMTIME string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
 
 -- ### Player information, second set
 -- Strings: more keys of the player information.
 
 ---@class velora
----@field USERINFO_VIP_SCORE string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_RANK_LEVEL string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_RANK_EXP string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_RANK_LEVEL_2 string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_RANK_EXP_2 string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_GOLD_1 string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_GOLD_2 string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_CUP_COUNT_1 string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_CUP_COUNT_2 string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_TOTAL_KILL string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_TOTAL_HEAD string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_AVG_KD string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_MAX_KD string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_MAX_CK string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_MAIN_WEAPON_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_VICE_WEAPON_ID string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_EXT_KEY string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
----@field USERINFO_EXT_VALUE string Key for `setUserInfo` and `getUserInfo`. Value and meaning are the SDK's.
+---@field USERINFO_VIP_SCORE string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_RANK_LEVEL string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_RANK_EXP string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_RANK_LEVEL_2 string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_RANK_EXP_2 string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_GOLD_1 string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_GOLD_2 string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_CUP_COUNT_1 string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_CUP_COUNT_2 string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_TOTAL_KILL string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_TOTAL_HEAD string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_AVG_KD string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_MAX_KD string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_MAX_CK string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_MAIN_WEAPON_ID string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_VICE_WEAPON_ID string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_EXT_KEY string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
+---@field USERINFO_EXT_VALUE string Key for `setUserInfo` and `getUserInfo`. The SDK defines value and meaning.
 
 -- ## Channel and device
 
@@ -753,11 +753,11 @@ function velora.getOnOrderCosumeDone() end
 -- Strings: kinds of store items.
 
 ---@class velora
----@field ITEM_TYPE_CONSUMABLE string For `zvQuerySkuDetails`. Value and meaning are the SDK's.
----@field ITEM_TYPE_NON_CONSUMABLE string For `zvQuerySkuDetails`. Value and meaning are the SDK's.
----@field ITEM_TYPE_SUBSCRIPTION string For `zvQuerySkuDetails`. Value and meaning are the SDK's.
----@field ITEM_TYPE_AUTO_RECURRING_SUBSCRIPTIONS string For `zvQuerySkuDetails`. Value and meaning are the SDK's.
----@field ITEM_TYPE_ALL string For `zvQuerySkuDetails`. Value and meaning are the SDK's.
+---@field ITEM_TYPE_CONSUMABLE string For `zvQuerySkuDetails`. The SDK defines value and meaning.
+---@field ITEM_TYPE_NON_CONSUMABLE string For `zvQuerySkuDetails`. The SDK defines value and meaning.
+---@field ITEM_TYPE_SUBSCRIPTION string For `zvQuerySkuDetails`. The SDK defines value and meaning.
+---@field ITEM_TYPE_AUTO_RECURRING_SUBSCRIPTIONS string For `zvQuerySkuDetails`. The SDK defines value and meaning.
+---@field ITEM_TYPE_ALL string For `zvQuerySkuDetails`. The SDK defines value and meaning.
 
 -- ## OrderInfo
 
@@ -1231,10 +1231,10 @@ function velora.QueryRankInfo.new(text) end
 -- Strings of the SDK, for `set_type` and `set_scope` of a query.
 
 ---@class velora
----@field QUERY_RANK_TYPE_SCORE string Rank by score. The value is the SDK's.
----@field QUERY_RANK_TYPE_GRADE string Rank by grade. The value is the SDK's.
----@field QUERY_RANK_SCOPE_ALL string Rank among all players. The value is the SDK's.
----@field QUERY_RANK_SCOPE_FRIEND string Rank among friends. The value is the SDK's.
+---@field QUERY_RANK_TYPE_SCORE string Rank by score. The SDK defines the value.
+---@field QUERY_RANK_TYPE_GRADE string Rank by grade. The SDK defines the value.
+---@field QUERY_RANK_SCOPE_ALL string Rank among all players. The SDK defines the value.
+---@field QUERY_RANK_SCOPE_FRIEND string Rank among friends. The SDK defines the value.
 
 -- # Sharing
 -- A request is filled field by field, checked with `zvCheckArgs` and sent with `zvShare`.
@@ -1356,74 +1356,74 @@ function velora.ShareInfo.new(text) end
 -- Strings of the SDK: `SHARE_TYPE_*` for `set_type`, `SHARE_SCOPE_*` for `set_scope`.
 
 ---@class velora
----@field SHARE_SCOPE_TOUSER string Share with one user. The value is the SDK's.
----@field SHARE_SCOPE_CIRCLE string Share with a circle. The value is the SDK's.
----@field SHARE_SCOPE_MULTIUSER string Share with several users. The value is the SDK's.
----@field SHARE_TYPE_INVITE string Share an invitation. The value is the SDK's.
----@field SHARE_TYPE_IMAGE string Share a picture. The value is the SDK's.
----@field SHARE_TYPE_LINK string Share a link. The value is the SDK's.
----@field SHARE_TYPE_VIDEO string Share a video. The value is the SDK's.
----@field SHARE_TYPE_AUDIO string Share a sound recording. The value is the SDK's.
----@field SHARE_TYPE_GIF string Share a GIF picture. The value is the SDK's.
----@field SHARE_TYPE_TEXT_ONLY string Share only text. The value is the SDK's.
----@field SHARE_TYPE_ATTENTION string Kind of request: attention. Value and meaning are the SDK's.
----@field SHARE_TYPE_GAME_REQUEST string Share a game request. The value is the SDK's.
----@field SHARE_TYPE_GET_TOKEN string Kind of request: get a token. Value and meaning are the SDK's.
----@field SHARE_TYPE_GET_RTMP string Kind of request: get an RTMP address. Value and meaning are the SDK's.
----@field SHARE_TYPE_CLEAR_TOKEN string Kind of request: clear a token. Value and meaning are the SDK's.
----@field SHARE_TYPE_MINI_PROGRAM string Share a mini program. The value is the SDK's.
----@field SHARE_TYPE_MUSIC string Share music. The value is the SDK's.
+---@field SHARE_SCOPE_TOUSER string Share with one user. The SDK defines the value.
+---@field SHARE_SCOPE_CIRCLE string Share with a circle. The SDK defines the value.
+---@field SHARE_SCOPE_MULTIUSER string Share with several users. The SDK defines the value.
+---@field SHARE_TYPE_INVITE string Share an invitation. The SDK defines the value.
+---@field SHARE_TYPE_IMAGE string Share a picture. The SDK defines the value.
+---@field SHARE_TYPE_LINK string Share a link. The SDK defines the value.
+---@field SHARE_TYPE_VIDEO string Share a video. The SDK defines the value.
+---@field SHARE_TYPE_AUDIO string Share a sound recording. The SDK defines the value.
+---@field SHARE_TYPE_GIF string Share a GIF picture. The SDK defines the value.
+---@field SHARE_TYPE_TEXT_ONLY string Share only text. The SDK defines the value.
+---@field SHARE_TYPE_ATTENTION string Kind of request: attention. The SDK defines value and meaning.
+---@field SHARE_TYPE_GAME_REQUEST string Share a game request. The SDK defines the value.
+---@field SHARE_TYPE_GET_TOKEN string Kind of request: get a token. The SDK defines value and meaning.
+---@field SHARE_TYPE_GET_RTMP string Kind of request: get an RTMP address. The SDK defines value and meaning.
+---@field SHARE_TYPE_CLEAR_TOKEN string Kind of request: clear a token. The SDK defines value and meaning.
+---@field SHARE_TYPE_MINI_PROGRAM string Share a mini program. The SDK defines the value.
+---@field SHARE_TYPE_MUSIC string Share music. The SDK defines the value.
 
 -- ### Share channel codes
 -- Integers, for `set_shareChannel` of a request.
 
 ---@class velora
----@field ZV_SHARE_TYPE_ANY integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_WEIBO integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_WEIXIN_FRIEND integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_WEIXIN_TIMELINE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_PELIA_FRIEND integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_PELIA_TIMELINE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_QQ integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_QZONE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_PLUS integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_FACEBOOK integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_GARENA integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_KAKAO integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_TWITTER integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_ZALO integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_VK integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_LINE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_FACEBOOK_MESSENGER integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_FACEBOOK_LIKE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_WEIBO_ATTENTION integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_WEIXIN_ATTENTION integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_NAVER_CAFE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_WHATSAPP integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_INSTAGRAM integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_YOUTUBE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_BAIDU_TIEBA integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_STARLIT_TIMELINE integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_STARLIT_FRIEND integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_XIAN_LIAO integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_INSTAGRAM_2 integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_TWITTER_2 integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_LINE_2 integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_LINE_GAME integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_MINI_PROGRAM integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_DOUYIN integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_KUAISHOU integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_KAKAO_STORY integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
----@field ZV_SHARE_TYPE_TIKTOK integer Channel for `set_shareChannel`. Value and meaning are the SDK's.
+---@field ZV_SHARE_TYPE_ANY integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_WEIBO integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_WEIXIN_FRIEND integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_WEIXIN_TIMELINE integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_PELIA_FRIEND integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_PELIA_TIMELINE integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_QQ integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_QZONE integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_PLUS integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_FACEBOOK integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_GARENA integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_KAKAO integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_TWITTER integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_ZALO integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_VK integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_LINE integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_FACEBOOK_MESSENGER integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_FACEBOOK_LIKE integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_WEIBO_ATTENTION integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_WEIXIN_ATTENTION integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_NAVER_CAFE integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_WHATSAPP integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_INSTAGRAM integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_YOUTUBE integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_BAIDU_TIEBA integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_STARLIT_TIMELINE integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_STARLIT_FRIEND integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_XIAN_LIAO integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_INSTAGRAM_2 integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_TWITTER_2 integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_LINE_2 integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_LINE_GAME integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_MINI_PROGRAM integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_DOUYIN integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_KUAISHOU integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_KAKAO_STORY integer Channel for `set_shareChannel`. The SDK defines value and meaning.
+---@field ZV_SHARE_TYPE_TIKTOK integer Channel for `set_shareChannel`. The SDK defines value and meaning.
 
 -- ### Mini program
 -- A property name, a string, and integers for `set_miniProgramType`. `MINIPTOGRAM_TYPE_RELEASE` is spelt this way.
 
 ---@class velora
----@field MINI_PROGRAM_RELEASE_TYPE string Property name. Value and meaning are the SDK's.
----@field MINIPTOGRAM_TYPE_RELEASE integer Released, for `set_miniProgramType`. Spelt this way. The value is the SDK's.
----@field MINIPROGRAM_TYPE_TEST integer Test version, for `set_miniProgramType`. The value is the SDK's.
----@field MINIPROGRAM_TYPE_PREVIEW integer Preview, for `set_miniProgramType`. The value is the SDK's.
+---@field MINI_PROGRAM_RELEASE_TYPE string Property name. The SDK defines value and meaning.
+---@field MINIPTOGRAM_TYPE_RELEASE integer Released, for `set_miniProgramType`. Spelt this way. The SDK defines the value.
+---@field MINIPROGRAM_TYPE_TEST integer Test version, for `set_miniProgramType`. The SDK defines the value.
+---@field MINIPROGRAM_TYPE_PREVIEW integer Preview, for `set_miniProgramType`. The SDK defines the value.
 
 -- # Notifications
 -- Messages to players who are not in the game: push notifications over the network, local ones from this device.
@@ -1648,19 +1648,19 @@ function velora.getOnWebviewNativeCall() end
 -- Strings: web pages of the SDK.
 
 ---@class velora
----@field ZV_WEB_NOTICE_INTRO string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
----@field ZV_WEB_NOTICE_INGAME string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
----@field ZV_WEB_PROMOTION_MAIN string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
----@field ZV_WEB_PROMOTION_EVENT string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
----@field ZV_WEB_PROMOTION_ETC string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
----@field ZV_WEB_COUPON string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
----@field ZV_WEB_CUSTOMER_SUPPORT_HOME string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
----@field ZV_WEB_CUSTOMER_SUPPORT_FAQ string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
----@field ZV_WEB_CUSTOMER_SUPPORT_INQUIRY string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
----@field ZV_WEB_CUSTOMER_SUPPORT_GUIDE string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
----@field ZV_WEB_CUSTOMER_SUPPORT_HISTORY string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
----@field ZV_WEB_GAME_REVIEW string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
----@field ZV_WEB_FREE_CHARGEVIEW string Web page of the SDK, for `zvShowWeb`. Value and meaning are the SDK's.
+---@field ZV_WEB_NOTICE_INTRO string Web page of the SDK, for `zvShowWeb`. The SDK defines value and meaning.
+---@field ZV_WEB_NOTICE_INGAME string Web page of the SDK, for `zvShowWeb`. The SDK defines value and meaning.
+---@field ZV_WEB_PROMOTION_MAIN string Web page of the SDK, for `zvShowWeb`. The SDK defines value and meaning.
+---@field ZV_WEB_PROMOTION_EVENT string Web page of the SDK, for `zvShowWeb`. The SDK defines value and meaning.
+---@field ZV_WEB_PROMOTION_ETC string Web page of the SDK, for `zvShowWeb`. The SDK defines value and meaning.
+---@field ZV_WEB_COUPON string Web page of the SDK, for `zvShowWeb`. The SDK defines value and meaning.
+---@field ZV_WEB_CUSTOMER_SUPPORT_HOME string Web page of the SDK, for `zvShowWeb`. The SDK defines value and meaning.
+---@field ZV_WEB_CUSTOMER_SUPPORT_FAQ string Web page of the SDK, for `zvShowWeb`. The SDK defines value and meaning.
+---@field ZV_WEB_CUSTOMER_SUPPORT_INQUIRY string Web page of the SDK, for `zvShowWeb`. The SDK defines value and meaning.
+---@field ZV_WEB_CUSTOMER_SUPPORT_GUIDE string Web page of the SDK, for `zvShowWeb`. The SDK defines value and meaning.
+---@field ZV_WEB_CUSTOMER_SUPPORT_HISTORY string Web page of the SDK, for `zvShowWeb`. The SDK defines value and meaning.
+---@field ZV_WEB_GAME_REVIEW string Web page of the SDK, for `zvShowWeb`. The SDK defines value and meaning.
+---@field ZV_WEB_FREE_CHARGEVIEW string Web page of the SDK, for `zvShowWeb`. The SDK defines value and meaning.
 
 -- ## Other views
 
@@ -1953,14 +1953,14 @@ function velora.zvPushGameVoice(data, size, sampleRate, bitsPerSample, channels)
 -- Strings: names of the recording service's properties. Integers: results of `getCCPerformance`.
 
 ---@class velora
----@field SHOULDSCCPAUSED string Property name. Value and meaning are the SDK's.
----@field CC_SHOW_FPS_SETTING string Property name. Value and meaning are the SDK's.
----@field CC_DEFAULT_FPS string Property name. Value and meaning are the SDK's.
----@field CC_WINDOW_STATE string Property name. Value and meaning are the SDK's.
----@field CC_PERFORMANCE string Property name. Value and meaning are the SDK's.
----@field CC_PERFORMANCE_NOT_SUPPORT integer Result of `getCCPerformance`: not supported. The value is the SDK's.
----@field CC_PERFORMANCE_GOOD integer Result of `getCCPerformance`: good. The value is the SDK's.
----@field CC_PERFORMANCE_SOSO integer Result of `getCCPerformance`: so-so. The value is the SDK's.
+---@field SHOULDSCCPAUSED string Property name. The SDK defines value and meaning.
+---@field CC_SHOW_FPS_SETTING string Property name. The SDK defines value and meaning.
+---@field CC_DEFAULT_FPS string Property name. The SDK defines value and meaning.
+---@field CC_WINDOW_STATE string Property name. The SDK defines value and meaning.
+---@field CC_PERFORMANCE string Property name. The SDK defines value and meaning.
+---@field CC_PERFORMANCE_NOT_SUPPORT integer Result of `getCCPerformance`: not supported. The SDK defines the value.
+---@field CC_PERFORMANCE_GOOD integer Result of `getCCPerformance`: good. The SDK defines the value.
+---@field CC_PERFORMANCE_SOSO integer Result of `getCCPerformance`: so-so. The SDK defines the value.
 
 -- ## Analytics
 
@@ -1989,37 +1989,37 @@ function velora.zvSetUserIdentifier(identifier) end
 -- Strings: keys and values for analytics reports.
 
 ---@class velora
----@field SWRVE_FUNC string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_FUNC_EVENT string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_EVENT_NAME string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_FUNC_PURCHASE string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_PURCHASE_ITEM string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_PURCHASE_CURRENCY string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_PURCHASE_COST string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_PURCHASE_QUANTITY string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_FUNC_CURRENCYGIVEN string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_CURRENCYGIVEN_CURRENCY string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_CURRENCYGIVEN_AMOUNT string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_FUNC_IAP string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_IAP_QUANTITY string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_IAP_PRODUCTID string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_IAP_PRODUCTPRICE string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_IAP_CURRENCY string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_IAP_REWARDS string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_FUNC_USERUPDATE string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_USERUPDATE_ATTRIBUTES string Key or value of an analytics report. Value and meaning are the SDK's.
----@field SWRVE_RESOURCE string Key or value of an analytics report. Value and meaning are the SDK's.
+---@field SWRVE_FUNC string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_FUNC_EVENT string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_EVENT_NAME string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_FUNC_PURCHASE string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_PURCHASE_ITEM string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_PURCHASE_CURRENCY string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_PURCHASE_COST string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_PURCHASE_QUANTITY string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_FUNC_CURRENCYGIVEN string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_CURRENCYGIVEN_CURRENCY string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_CURRENCYGIVEN_AMOUNT string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_FUNC_IAP string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_IAP_QUANTITY string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_IAP_PRODUCTID string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_IAP_PRODUCTPRICE string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_IAP_CURRENCY string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_IAP_REWARDS string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_FUNC_USERUPDATE string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_USERUPDATE_ATTRIBUTES string Key or value of an analytics report. The SDK defines value and meaning.
+---@field SWRVE_RESOURCE string Key or value of an analytics report. The SDK defines value and meaning.
 
 -- ### Collection report codes
 -- Integers: results of start, login and payment.
 
 ---@class velora
----@field COLLECT_SDKINIT_FAIL integer Code of a report. Value and meaning are the SDK's.
----@field COLLECT_SDKLOGIN_FAIL integer Code of a report. Value and meaning are the SDK's.
----@field COLLECT_SDKFF_FAIL integer Code of a report. Value and meaning are the SDK's.
----@field COLLECT_SDKINIT_SUCC integer Code of a report. Value and meaning are the SDK's.
----@field COLLECT_SDKLOGIN_SUCC integer Code of a report. Value and meaning are the SDK's.
----@field COLLECT_SDKFF_SUCC integer Code of a report. Value and meaning are the SDK's.
+---@field COLLECT_SDKINIT_FAIL integer Code of a report. The SDK defines value and meaning.
+---@field COLLECT_SDKLOGIN_FAIL integer Code of a report. The SDK defines value and meaning.
+---@field COLLECT_SDKFF_FAIL integer Code of a report. The SDK defines value and meaning.
+---@field COLLECT_SDKINIT_SUCC integer Code of a report. The SDK defines value and meaning.
+---@field COLLECT_SDKLOGIN_SUCC integer Code of a report. The SDK defines value and meaning.
+---@field COLLECT_SDKFF_SUCC integer Code of a report. The SDK defines value and meaning.
 
 -- # Downloads
 -- The SDK's download service. It reports in one of two ways: by queued events, through the callbacks, or by direct
@@ -2142,531 +2142,531 @@ function velora.getOnDownloadFinish2() end
 -- Strings: names of properties that identify the game.
 
 ---@class velora
----@field SDK_NAME string Property name. Value and meaning are the SDK's.
----@field GAMEID string Property name. Value and meaning are the SDK's.
----@field PROTOCOL_GAMEID string Property name. Value and meaning are the SDK's.
----@field GAME_VERSION string Property name. Value and meaning are the SDK's.
----@field DERIVE_CHANNEL string Property name. Value and meaning are the SDK's.
----@field REQUEST_CMCC_FFTYPE string Property name. Value and meaning are the SDK's.
----@field DEFAULT_CMCC_FFTYPE string Property name. Value and meaning are the SDK's.
----@field CMCC_FFTYPE_URL string Property name. Value and meaning are the SDK's.
----@field APP_NAME string Property name. Value and meaning are the SDK's.
----@field APPID string Property name. Value and meaning are the SDK's.
----@field APP_KEY string Property name. Value and meaning are the SDK's.
----@field APP_SECRET string Property name. Value and meaning are the SDK's.
----@field CPID string Property name. Value and meaning are the SDK's.
----@field CP_KEY string Property name. Value and meaning are the SDK's.
----@field SERVER_ID string Property name. Value and meaning are the SDK's.
----@field SCR_ORIENTATION string Property name. Value and meaning are the SDK's.
----@field PACKET_ID string Property name. Value and meaning are the SDK's.
----@field USER_ID string Property name. Value and meaning are the SDK's.
----@field BUOY_PRIVATEKEY string Property name. Value and meaning are the SDK's.
----@field EXCHANGE_RATE string Property name. Value and meaning are the SDK's.
----@field EXCHANGE_UNIT string Property name. Value and meaning are the SDK's.
----@field CHANNEL_ID string Property name. Value and meaning are the SDK's.
----@field REFRESH_TOKEN string Property name. Value and meaning are the SDK's.
+---@field SDK_NAME string Property name. The SDK defines value and meaning.
+---@field GAMEID string Property name. The SDK defines value and meaning.
+---@field PROTOCOL_GAMEID string Property name. The SDK defines value and meaning.
+---@field GAME_VERSION string Property name. The SDK defines value and meaning.
+---@field DERIVE_CHANNEL string Property name. The SDK defines value and meaning.
+---@field REQUEST_CMCC_FFTYPE string Property name. The SDK defines value and meaning.
+---@field DEFAULT_CMCC_FFTYPE string Property name. The SDK defines value and meaning.
+---@field CMCC_FFTYPE_URL string Property name. The SDK defines value and meaning.
+---@field APP_NAME string Property name. The SDK defines value and meaning.
+---@field APPID string Property name. The SDK defines value and meaning.
+---@field APP_KEY string Property name. The SDK defines value and meaning.
+---@field APP_SECRET string Property name. The SDK defines value and meaning.
+---@field CPID string Property name. The SDK defines value and meaning.
+---@field CP_KEY string Property name. The SDK defines value and meaning.
+---@field SERVER_ID string Property name. The SDK defines value and meaning.
+---@field SCR_ORIENTATION string Property name. The SDK defines value and meaning.
+---@field PACKET_ID string Property name. The SDK defines value and meaning.
+---@field USER_ID string Property name. The SDK defines value and meaning.
+---@field BUOY_PRIVATEKEY string Property name. The SDK defines value and meaning.
+---@field EXCHANGE_RATE string Property name. The SDK defines value and meaning.
+---@field EXCHANGE_UNIT string Property name. The SDK defines value and meaning.
+---@field CHANNEL_ID string Property name. The SDK defines value and meaning.
+---@field REFRESH_TOKEN string Property name. The SDK defines value and meaning.
 
 -- ## Screen orientation codes
 -- Integers: values of the property `SCR_ORIENTATION`.
 
 ---@class velora
----@field E_SO_PORTRAIT integer Value of `SCR_ORIENTATION`. Value and meaning are the SDK's.
----@field E_SO_LANDSCAPE integer Value of `SCR_ORIENTATION`. Value and meaning are the SDK's.
----@field E_SO_LANDSCAPE_REVERSE integer Value of `SCR_ORIENTATION`. Value and meaning are the SDK's.
----@field E_SO_AUTO integer Value of `SCR_ORIENTATION`. Value and meaning are the SDK's.
----@field E_SO_LANDSCAPE_SENSOR integer Value of `SCR_ORIENTATION`. Value and meaning are the SDK's.
----@field E_SO_PORTRAIT_SENSOR integer Value of `SCR_ORIENTATION`. Value and meaning are the SDK's.
+---@field E_SO_PORTRAIT integer Value of `SCR_ORIENTATION`. The SDK defines value and meaning.
+---@field E_SO_LANDSCAPE integer Value of `SCR_ORIENTATION`. The SDK defines value and meaning.
+---@field E_SO_LANDSCAPE_REVERSE integer Value of `SCR_ORIENTATION`. The SDK defines value and meaning.
+---@field E_SO_AUTO integer Value of `SCR_ORIENTATION`. The SDK defines value and meaning.
+---@field E_SO_LANDSCAPE_SENSOR integer Value of `SCR_ORIENTATION`. The SDK defines value and meaning.
+---@field E_SO_PORTRAIT_SENSOR integer Value of `SCR_ORIENTATION`. The SDK defines value and meaning.
 
 -- ## Update check and login status
 -- Strings: property names.
 
 ---@class velora
----@field SDK_UPDATE_CHECK_STRICT string Property name. Value and meaning are the SDK's.
----@field FF_CB_URL string Property name. Value and meaning are the SDK's.
----@field LOGIN_STAT string Property name. Value and meaning are the SDK's.
+---@field SDK_UPDATE_CHECK_STRICT string Property name. The SDK defines value and meaning.
+---@field FF_CB_URL string Property name. The SDK defines value and meaning.
+---@field LOGIN_STAT string Property name. The SDK defines value and meaning.
 
 -- ## Session, device and price limit
 -- Strings: the values for no session and no device. `C_MAX_PRICE` is an integer.
 
 ---@class velora
----@field S_NOT_LOGIN_SESSION string The session while nobody is logged in. The value is the SDK's.
----@field INVALID_DEVICE_ID string The device id if there is none. The value is the SDK's.
----@field C_MAX_PRICE integer The highest price, cut to an integer. The value is the SDK's.
+---@field S_NOT_LOGIN_SESSION string The session while nobody is logged in. The SDK defines the value.
+---@field INVALID_DEVICE_ID string The device id if there is none. The SDK defines the value.
+---@field C_MAX_PRICE integer The highest price, cut to an integer. The SDK defines the value.
 
 -- ## Account, device and session keys
 -- Strings: property names, the value `INVALID_UID`, and values of `WEB_LOGIN_STATUS`.
 
 ---@class velora
----@field INVALID_UID string The user id if there is none. The value is the SDK's.
----@field PSEUDO_UID string Property name. Value and meaning are the SDK's.
----@field UID string Property name. Value and meaning are the SDK's.
----@field WEB_UID string Property name. Value and meaning are the SDK's.
----@field WEB_SESSION string Property name. Value and meaning are the SDK's.
----@field WEB_LOGIN_STATUS string Property name. Value and meaning are the SDK's.
----@field WEB_LOGIN_SUCCESS string Value of `WEB_LOGIN_STATUS`: logged in. The value is the SDK's.
----@field WEB_LOGIN_FAIL string Value of `WEB_LOGIN_STATUS`: the login has failed. The value is the SDK's.
----@field UEMAIL string Property name. Value and meaning are the SDK's.
----@field UBIRTHDAY string Property name. Value and meaning are the SDK's.
----@field UGENDER string Property name. Value and meaning are the SDK's.
----@field UHOMETOWN string Property name. Value and meaning are the SDK's.
----@field UAGE string Property name. Value and meaning are the SDK's.
----@field CHANNEL_UID string Property name. Value and meaning are the SDK's.
----@field FB_UID string Property name. Value and meaning are the SDK's.
----@field FULL_UID string Property name. Value and meaning are the SDK's.
----@field GAME_UID string Property name. Value and meaning are the SDK's.
----@field GAME_NAME string Property name. Value and meaning are the SDK's.
----@field DEVICE_ID string Property name. Value and meaning are the SDK's.
----@field UDID string Property name. Value and meaning are the SDK's.
----@field DEVICE_IP string Property name. Value and meaning are the SDK's.
----@field RSA_PUBLIC string Property name. Value and meaning are the SDK's.
----@field RSA_PRIVATE string Property name. Value and meaning are the SDK's.
----@field USR_NAME string Property name. Value and meaning are the SDK's.
----@field SESSION string Property name. Value and meaning are the SDK's.
----@field LOGIN_CHANNEL string Property name. Value and meaning are the SDK's.
----@field SPLASH string Property name. Value and meaning are the SDK's.
+---@field INVALID_UID string The user id if there is none. The SDK defines the value.
+---@field PSEUDO_UID string Property name. The SDK defines value and meaning.
+---@field UID string Property name. The SDK defines value and meaning.
+---@field WEB_UID string Property name. The SDK defines value and meaning.
+---@field WEB_SESSION string Property name. The SDK defines value and meaning.
+---@field WEB_LOGIN_STATUS string Property name. The SDK defines value and meaning.
+---@field WEB_LOGIN_SUCCESS string Value of `WEB_LOGIN_STATUS`: logged in. The SDK defines the value.
+---@field WEB_LOGIN_FAIL string Value of `WEB_LOGIN_STATUS`: the login has failed. The SDK defines the value.
+---@field UEMAIL string Property name. The SDK defines value and meaning.
+---@field UBIRTHDAY string Property name. The SDK defines value and meaning.
+---@field UGENDER string Property name. The SDK defines value and meaning.
+---@field UHOMETOWN string Property name. The SDK defines value and meaning.
+---@field UAGE string Property name. The SDK defines value and meaning.
+---@field CHANNEL_UID string Property name. The SDK defines value and meaning.
+---@field FB_UID string Property name. The SDK defines value and meaning.
+---@field FULL_UID string Property name. The SDK defines value and meaning.
+---@field GAME_UID string Property name. The SDK defines value and meaning.
+---@field GAME_NAME string Property name. The SDK defines value and meaning.
+---@field DEVICE_ID string Property name. The SDK defines value and meaning.
+---@field UDID string Property name. The SDK defines value and meaning.
+---@field DEVICE_IP string Property name. The SDK defines value and meaning.
+---@field RSA_PUBLIC string Property name. The SDK defines value and meaning.
+---@field RSA_PRIVATE string Property name. The SDK defines value and meaning.
+---@field USR_NAME string Property name. The SDK defines value and meaning.
+---@field SESSION string Property name. The SDK defines value and meaning.
+---@field LOGIN_CHANNEL string Property name. The SDK defines value and meaning.
+---@field SPLASH string Property name. The SDK defines value and meaning.
 
 -- ## Switches and their values
 -- Strings: property names. Integers: their values.
 
 ---@class velora
----@field HAS_SPLASH integer Value of `SPLASH`: there is a splash screen. The value is the SDK's.
----@field NOT_HAS_SPLASH integer Value of `SPLASH`: there is none. The value is the SDK's.
----@field DEBUG_MODE string Property name. Value and meaning are the SDK's.
----@field DEBUG_MODE_TRUE integer Value of `DEBUG_MODE`. Value and meaning are the SDK's.
----@field DEBUG_MODE_FALSE integer Value of `DEBUG_MODE`. Value and meaning are the SDK's.
----@field DEBUG_LOG string Property name. Value and meaning are the SDK's.
----@field RETRIEVE_USER string Property name. Value and meaning are the SDK's.
----@field RETRIEVE_USER_TRUE integer Value of `RETRIEVE_USER`. Value and meaning are the SDK's.
----@field RETRIEVE_USER_FALSE integer Value of `RETRIEVE_USER`. Value and meaning are the SDK's.
----@field APP_CHANNEL string Property name. Value and meaning are the SDK's.
+---@field HAS_SPLASH integer Value of `SPLASH`: there is a splash screen. The SDK defines the value.
+---@field NOT_HAS_SPLASH integer Value of `SPLASH`: there is none. The SDK defines the value.
+---@field DEBUG_MODE string Property name. The SDK defines value and meaning.
+---@field DEBUG_MODE_TRUE integer Value of `DEBUG_MODE`. The SDK defines value and meaning.
+---@field DEBUG_MODE_FALSE integer Value of `DEBUG_MODE`. The SDK defines value and meaning.
+---@field DEBUG_LOG string Property name. The SDK defines value and meaning.
+---@field RETRIEVE_USER string Property name. The SDK defines value and meaning.
+---@field RETRIEVE_USER_TRUE integer Value of `RETRIEVE_USER`. The SDK defines value and meaning.
+---@field RETRIEVE_USER_FALSE integer Value of `RETRIEVE_USER`. The SDK defines value and meaning.
+---@field APP_CHANNEL string Property name. The SDK defines value and meaning.
 
 -- ## Caller-thread keys
 -- Strings: properties that select the thread of a listener, one of `LISTENER_CB_*`.
 
 ---@class velora
----@field LOGIN_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field WEB_LOGIN_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field LEAVE_SDK_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field LOGOUT_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field ORDER_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field CONTINUE_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field EXIT_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field FRIEND_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field RANK_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field QUEST_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field SHARE_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field QUERYSKUDETAILS_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field CONTROLLER_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field PUSH_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field SHOW_VIEW_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field WEBVIEW_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field VERIFY_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field CODESCANNER_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field EXTEND_FUNC_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
----@field PROTOCOL_FINISH_CALLER_THREAD string Property that takes `LISTENER_CB_*`. Value and meaning are the SDK's.
+---@field LOGIN_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field WEB_LOGIN_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field LEAVE_SDK_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field LOGOUT_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field ORDER_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field CONTINUE_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field EXIT_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field FRIEND_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field RANK_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field QUEST_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field SHARE_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field QUERYSKUDETAILS_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field CONTROLLER_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field PUSH_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field SHOW_VIEW_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field WEBVIEW_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field VERIFY_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field CODESCANNER_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field EXTEND_FUNC_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
+---@field PROTOCOL_FINISH_CALLER_THREAD string Property that takes `LISTENER_CB_*`. The SDK defines value and meaning.
 
 -- ## Listener callback threads and FF_COOLPAD
 -- Integers: values of the caller-thread properties, and a payment code.
 
 ---@class velora
----@field LISTENER_CB_CALLER integer Value of a `*_CALLER_THREAD` property. Value and meaning are the SDK's.
----@field LISTENER_CB_UI integer Value of a `*_CALLER_THREAD` property. Value and meaning are the SDK's.
----@field LISTENER_CB_GL integer Value of a `*_CALLER_THREAD` property. Value and meaning are the SDK's.
----@field FF_COOLPAD integer Payment code. Value and meaning are the SDK's.
+---@field LISTENER_CB_CALLER integer Value of a `*_CALLER_THREAD` property. The SDK defines value and meaning.
+---@field LISTENER_CB_UI integer Value of a `*_CALLER_THREAD` property. The SDK defines value and meaning.
+---@field LISTENER_CB_GL integer Value of a `*_CALLER_THREAD` property. The SDK defines value and meaning.
+---@field FF_COOLPAD integer Payment code. The SDK defines value and meaning.
 
 -- ## Game engine
 -- A property name, a string, and its values, integers.
 
 ---@class velora
----@field GAME_ENGINE string Property name. Value and meaning are the SDK's.
----@field ENGINE_COCOS integer Value of `GAME_ENGINE`. Value and meaning are the SDK's.
----@field ENGINE_UNITY3D integer Value of `GAME_ENGINE`. Value and meaning are the SDK's.
----@field ENGINE_TARN integer Value of `GAME_ENGINE`. Value and meaning are the SDK's.
----@field ENGINE_UNREAL integer Value of `GAME_ENGINE`. Value and meaning are the SDK's.
+---@field GAME_ENGINE string Property name. The SDK defines value and meaning.
+---@field ENGINE_COCOS integer Value of `GAME_ENGINE`. The SDK defines value and meaning.
+---@field ENGINE_UNITY3D integer Value of `GAME_ENGINE`. The SDK defines value and meaning.
+---@field ENGINE_TARN integer Value of `GAME_ENGINE`. The SDK defines value and meaning.
+---@field ENGINE_UNREAL integer Value of `GAME_ENGINE`. The SDK defines value and meaning.
 
 -- ## External login switches
 -- Strings: properties that allow a way to log in.
 
 ---@class velora
----@field ENABLE_EXLOGIN_GUEST string Property that allows a way to log in. Value and meaning are the SDK's.
----@field ENABLE_EXLOGIN_GUEST_NEW string Property that allows a way to log in. Value and meaning are the SDK's.
----@field ENABLE_EXLOGIN_WEIBO string Property that allows a way to log in. Value and meaning are the SDK's.
----@field ENABLE_EXLOGIN_WEIBO_NEW string Property that allows a way to log in. Value and meaning are the SDK's.
----@field ENABLE_EXLOGIN_MOBILE string Property that allows a way to log in. Value and meaning are the SDK's.
----@field ENABLE_EXLOGIN_MOBILE_NEW string Property that allows a way to log in. Value and meaning are the SDK's.
----@field ENABLE_EXLOGIN_GOOGLEPLUS string Property that allows a way to log in. Value and meaning are the SDK's.
----@field ENABLE_EXLOGIN_GOOGL string Property that allows a way to log in. Value and meaning are the SDK's.
----@field ENABLE_EXLOGIN_FACEBOOK string Property that allows a way to log in. Value and meaning are the SDK's.
----@field ENABLE_EXLOGIN_NATIVE string Property that allows a way to log in. Value and meaning are the SDK's.
----@field ENABLE_EXLOGIN_WECHAT string Property that allows a way to log in. Value and meaning are the SDK's.
----@field ENABLE_EXLOGIN_QQ string Property that allows a way to log in. Value and meaning are the SDK's.
+---@field ENABLE_EXLOGIN_GUEST string Property that allows a way to log in. The SDK defines value and meaning.
+---@field ENABLE_EXLOGIN_GUEST_NEW string Property that allows a way to log in. The SDK defines value and meaning.
+---@field ENABLE_EXLOGIN_WEIBO string Property that allows a way to log in. The SDK defines value and meaning.
+---@field ENABLE_EXLOGIN_WEIBO_NEW string Property that allows a way to log in. The SDK defines value and meaning.
+---@field ENABLE_EXLOGIN_MOBILE string Property that allows a way to log in. The SDK defines value and meaning.
+---@field ENABLE_EXLOGIN_MOBILE_NEW string Property that allows a way to log in. The SDK defines value and meaning.
+---@field ENABLE_EXLOGIN_GOOGLEPLUS string Property that allows a way to log in. The SDK defines value and meaning.
+---@field ENABLE_EXLOGIN_GOOGL string Property that allows a way to log in. The SDK defines value and meaning.
+---@field ENABLE_EXLOGIN_FACEBOOK string Property that allows a way to log in. The SDK defines value and meaning.
+---@field ENABLE_EXLOGIN_NATIVE string Property that allows a way to log in. The SDK defines value and meaning.
+---@field ENABLE_EXLOGIN_WECHAT string Property that allows a way to log in. The SDK defines value and meaning.
+---@field ENABLE_EXLOGIN_QQ string Property that allows a way to log in. The SDK defines value and meaning.
 
 -- ## Anti-addiction, proxy, friend queries, forum, guest origin, currency and application data
 -- Strings: property names.
 
 ---@class velora
----@field IS_ANTI_ADDICTION string Property name. Value and meaning are the SDK's.
----@field PROXYSERVER_ADDRESS string Property name. Value and meaning are the SDK's.
----@field ZV_OAUTH_ACCESS_TOKEN string Property name. Value and meaning are the SDK's.
----@field ZV_CDN_SERVER string Property name. Value and meaning are the SDK's.
----@field ZV_LINE_ERROR_CODE string Property name. Value and meaning are the SDK's.
----@field ZV_QUERY_FRIENDS_START_INDEX string Property name. Value and meaning are the SDK's.
----@field ZV_QUERY_FRIENDS_COUNT string Property name. Value and meaning are the SDK's.
----@field ZV_QUERY_FRIENDS_IN_GAME_START_INDEX string Property name. Value and meaning are the SDK's.
----@field ZV_QUERY_FRIENDS_IN_GAME_COUNT string Property name. Value and meaning are the SDK's.
----@field ZV_QUERY_FRIENDS_TOTAL string Property name. Value and meaning are the SDK's.
----@field ZV_QUERY_FRIENDS_IN_GAME_TOTAL string Property name. Value and meaning are the SDK's.
----@field AVATAR_URL string Property name. Value and meaning are the SDK's.
----@field FORUM_URL string Property name. Value and meaning are the SDK's.
----@field FORUM_TITLE string Property name. Value and meaning are the SDK's.
----@field ORIGIN_GUEST_UID string Property name. Value and meaning are the SDK's.
----@field ORIGIN_GUEST_SESSION string Property name. Value and meaning are the SDK's.
----@field CURRENCY string Property name. Value and meaning are the SDK's.
----@field RATE string Property name. Value and meaning are the SDK's.
----@field APP_DATA string Property name. Value and meaning are the SDK's.
----@field APP_LOCATION string Property name. Value and meaning are the SDK's.
----@field APP_VERSION string Property name. Value and meaning are the SDK's.
+---@field IS_ANTI_ADDICTION string Property name. The SDK defines value and meaning.
+---@field PROXYSERVER_ADDRESS string Property name. The SDK defines value and meaning.
+---@field ZV_OAUTH_ACCESS_TOKEN string Property name. The SDK defines value and meaning.
+---@field ZV_CDN_SERVER string Property name. The SDK defines value and meaning.
+---@field ZV_LINE_ERROR_CODE string Property name. The SDK defines value and meaning.
+---@field ZV_QUERY_FRIENDS_START_INDEX string Property name. The SDK defines value and meaning.
+---@field ZV_QUERY_FRIENDS_COUNT string Property name. The SDK defines value and meaning.
+---@field ZV_QUERY_FRIENDS_IN_GAME_START_INDEX string Property name. The SDK defines value and meaning.
+---@field ZV_QUERY_FRIENDS_IN_GAME_COUNT string Property name. The SDK defines value and meaning.
+---@field ZV_QUERY_FRIENDS_TOTAL string Property name. The SDK defines value and meaning.
+---@field ZV_QUERY_FRIENDS_IN_GAME_TOTAL string Property name. The SDK defines value and meaning.
+---@field AVATAR_URL string Property name. The SDK defines value and meaning.
+---@field FORUM_URL string Property name. The SDK defines value and meaning.
+---@field FORUM_TITLE string Property name. The SDK defines value and meaning.
+---@field ORIGIN_GUEST_UID string Property name. The SDK defines value and meaning.
+---@field ORIGIN_GUEST_SESSION string Property name. The SDK defines value and meaning.
+---@field CURRENCY string Property name. The SDK defines value and meaning.
+---@field RATE string Property name. The SDK defines value and meaning.
+---@field APP_DATA string Property name. The SDK defines value and meaning.
+---@field APP_LOCATION string Property name. The SDK defines value and meaning.
+---@field APP_VERSION string Property name. The SDK defines value and meaning.
 
 -- ## Splash screen
 -- Strings: property names. Integers: their values.
 
 ---@class velora
----@field SPLASH_COLOR string Property name. Value and meaning are the SDK's.
----@field SPLASH_TIME string Property name. Value and meaning are the SDK's.
----@field SPLASH_SECOND string Property name. Value and meaning are the SDK's.
----@field SPLASH_SECOND_MAXTIME string Property name. Value and meaning are the SDK's.
----@field SPLASH_TYPE string Property name. Value and meaning are the SDK's.
----@field SPLASH_TYPE_PNG integer Value of `SPLASH_TYPE`. Value and meaning are the SDK's.
----@field SPLASH_TYPE_MEDIA integer Value of `SPLASH_TYPE`. Value and meaning are the SDK's.
----@field SPLASH_PNG_SCALE_TYPE string Property name. Value and meaning are the SDK's.
----@field SPLASH_PNG_CENTER_INSIDE integer Value of `SPLASH_PNG_SCALE_TYPE`. Value and meaning are the SDK's.
----@field SPLASH_PNG_CENTER_CROP integer Value of `SPLASH_PNG_SCALE_TYPE`. Value and meaning are the SDK's.
+---@field SPLASH_COLOR string Property name. The SDK defines value and meaning.
+---@field SPLASH_TIME string Property name. The SDK defines value and meaning.
+---@field SPLASH_SECOND string Property name. The SDK defines value and meaning.
+---@field SPLASH_SECOND_MAXTIME string Property name. The SDK defines value and meaning.
+---@field SPLASH_TYPE string Property name. The SDK defines value and meaning.
+---@field SPLASH_TYPE_PNG integer Value of `SPLASH_TYPE`. The SDK defines value and meaning.
+---@field SPLASH_TYPE_MEDIA integer Value of `SPLASH_TYPE`. The SDK defines value and meaning.
+---@field SPLASH_PNG_SCALE_TYPE string Property name. The SDK defines value and meaning.
+---@field SPLASH_PNG_CENTER_INSIDE integer Value of `SPLASH_PNG_SCALE_TYPE`. The SDK defines value and meaning.
+---@field SPLASH_PNG_CENTER_CROP integer Value of `SPLASH_PNG_SCALE_TYPE`. The SDK defines value and meaning.
 
 -- ## Floating button position
 -- A property name, a string, and its values, integers.
 
 ---@class velora
----@field FLOAT_BTN_POS string Property name. Value and meaning are the SDK's.
----@field FLOAT_BTN_POS_LEFT_TOP integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
----@field FLOAT_BTN_POS_LEFT_CENTER integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
----@field FLOAT_BTN_POS_LEFT_BOTTOM integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
----@field FLOAT_BTN_POS_RIGHT_TOP integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
----@field FLOAT_BTN_POS_RIGHT_CENTER integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
----@field FLOAT_BTN_POS_RIGHT_BOTTOM integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
----@field FLOAT_BTN_POS_CENTER_TOP integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
----@field FLOAT_BTN_POS_CENTER_BOTTOM integer Value of `FLOAT_BTN_POS`. Value and meaning are the SDK's.
+---@field FLOAT_BTN_POS string Property name. The SDK defines value and meaning.
+---@field FLOAT_BTN_POS_LEFT_TOP integer Value of `FLOAT_BTN_POS`. The SDK defines value and meaning.
+---@field FLOAT_BTN_POS_LEFT_CENTER integer Value of `FLOAT_BTN_POS`. The SDK defines value and meaning.
+---@field FLOAT_BTN_POS_LEFT_BOTTOM integer Value of `FLOAT_BTN_POS`. The SDK defines value and meaning.
+---@field FLOAT_BTN_POS_RIGHT_TOP integer Value of `FLOAT_BTN_POS`. The SDK defines value and meaning.
+---@field FLOAT_BTN_POS_RIGHT_CENTER integer Value of `FLOAT_BTN_POS`. The SDK defines value and meaning.
+---@field FLOAT_BTN_POS_RIGHT_BOTTOM integer Value of `FLOAT_BTN_POS`. The SDK defines value and meaning.
+---@field FLOAT_BTN_POS_CENTER_TOP integer Value of `FLOAT_BTN_POS`. The SDK defines value and meaning.
+---@field FLOAT_BTN_POS_CENTER_BOTTOM integer Value of `FLOAT_BTN_POS`. The SDK defines value and meaning.
 
 -- ## FFTYPE, LIANYUN, SINGLE_CB, MONTHTYPE and role keys
 -- Strings: property names and values of `MONTHTYPE`. Integers: values of `FFTYPE`.
 
 ---@class velora
----@field FFTYPE string Property name. Value and meaning are the SDK's.
----@field FFTYPE_STANDALONE integer Value of `FFTYPE`. Value and meaning are the SDK's.
----@field FFTYPE_ONLINE integer Value of `FFTYPE`. Value and meaning are the SDK's.
----@field LIANYUN string Property name. Value and meaning are the SDK's.
----@field SINGLE_CB string Property name. Value and meaning are the SDK's.
----@field MONTHTYPE string Property name. Value and meaning are the SDK's.
----@field MONTHTYPE_OTHER string Value of `MONTHTYPE`. Value and meaning are the SDK's.
----@field MONTHTYPE_SUBMONTH string Value of `MONTHTYPE`. Value and meaning are the SDK's.
----@field MONTHTYPE_UNSUBMONTH string Value of `MONTHTYPE`. Value and meaning are the SDK's.
----@field GAME_INNER_SWITCH_USER string Property name. Value and meaning are the SDK's.
----@field CPCODE string Property name. Value and meaning are the SDK's.
----@field CREATE_ROLE string Property name. Value and meaning are the SDK's.
+---@field FFTYPE string Property name. The SDK defines value and meaning.
+---@field FFTYPE_STANDALONE integer Value of `FFTYPE`. The SDK defines value and meaning.
+---@field FFTYPE_ONLINE integer Value of `FFTYPE`. The SDK defines value and meaning.
+---@field LIANYUN string Property name. The SDK defines value and meaning.
+---@field SINGLE_CB string Property name. The SDK defines value and meaning.
+---@field MONTHTYPE string Property name. The SDK defines value and meaning.
+---@field MONTHTYPE_OTHER string Value of `MONTHTYPE`. The SDK defines value and meaning.
+---@field MONTHTYPE_SUBMONTH string Value of `MONTHTYPE`. The SDK defines value and meaning.
+---@field MONTHTYPE_UNSUBMONTH string Value of `MONTHTYPE`. The SDK defines value and meaning.
+---@field GAME_INNER_SWITCH_USER string Property name. The SDK defines value and meaning.
+---@field CPCODE string Property name. The SDK defines value and meaning.
+---@field CREATE_ROLE string Property name. The SDK defines value and meaning.
 
 -- ## Login and bind type, social application keys, single sign-on checks
 -- Strings: property names.
 
 ---@class velora
----@field LOGIN_TYPE string Property name. Value and meaning are the SDK's.
----@field BIND_TYPE string Property name. Value and meaning are the SDK's.
----@field AUTH_CHANNEL string Property name. Value and meaning are the SDK's.
----@field WEIBO_SSO_APP_KEY string Property name. Value and meaning are the SDK's.
----@field WEIBO_APP_KEY string Property name. Value and meaning are the SDK's.
----@field WEIBO_SSO_URL string Property name. Value and meaning are the SDK's.
----@field WEIBO_REDIRECT_URI string Property name. Value and meaning are the SDK's.
----@field SHARE_PELIA_API string Property name. Value and meaning are the SDK's.
----@field SHARE_WEIXIN_API string Property name. Value and meaning are the SDK's.
----@field WECHAT_APP_KEY string Property name. Value and meaning are the SDK's.
----@field SHARE_WEIBO_API string Property name. Value and meaning are the SDK's.
----@field SHARE_QQ_API string Property name. Value and meaning are the SDK's.
----@field QQ_APP_ID string Property name. Value and meaning are the SDK's.
----@field SHARE_XIANLIAO_API string Property name. Value and meaning are the SDK's.
----@field SHIP_SINAWEIBO_SSO_CHECK string Property name. Value and meaning are the SDK's.
----@field SHIP_WEIXIN_SSO_CHECK string Property name. Value and meaning are the SDK's.
----@field SHIP_QQ_SSO_CHECK string Property name. Value and meaning are the SDK's.
----@field SHIP_PELIA_SSO_CHECK string Property name. Value and meaning are the SDK's.
----@field SHIP_XIANLIAO_SSO_CHECK string Property name. Value and meaning are the SDK's.
----@field SHIP_DOUYIN_SSO_CHECK string Property name. Value and meaning are the SDK's.
----@field FF_METHOD string Property name. Value and meaning are the SDK's.
----@field DOUYIN_CLIENT_KEY string Property name. Value and meaning are the SDK's.
----@field ENABLE_NAVIGATION_BAR string Property name. Value and meaning are the SDK's.
----@field ENABLE_FORCE_DOWNLOAD string Property name. Value and meaning are the SDK's.
+---@field LOGIN_TYPE string Property name. The SDK defines value and meaning.
+---@field BIND_TYPE string Property name. The SDK defines value and meaning.
+---@field AUTH_CHANNEL string Property name. The SDK defines value and meaning.
+---@field WEIBO_SSO_APP_KEY string Property name. The SDK defines value and meaning.
+---@field WEIBO_APP_KEY string Property name. The SDK defines value and meaning.
+---@field WEIBO_SSO_URL string Property name. The SDK defines value and meaning.
+---@field WEIBO_REDIRECT_URI string Property name. The SDK defines value and meaning.
+---@field SHARE_PELIA_API string Property name. The SDK defines value and meaning.
+---@field SHARE_WEIXIN_API string Property name. The SDK defines value and meaning.
+---@field WECHAT_APP_KEY string Property name. The SDK defines value and meaning.
+---@field SHARE_WEIBO_API string Property name. The SDK defines value and meaning.
+---@field SHARE_QQ_API string Property name. The SDK defines value and meaning.
+---@field QQ_APP_ID string Property name. The SDK defines value and meaning.
+---@field SHARE_XIANLIAO_API string Property name. The SDK defines value and meaning.
+---@field SHIP_SINAWEIBO_SSO_CHECK string Property name. The SDK defines value and meaning.
+---@field SHIP_WEIXIN_SSO_CHECK string Property name. The SDK defines value and meaning.
+---@field SHIP_QQ_SSO_CHECK string Property name. The SDK defines value and meaning.
+---@field SHIP_PELIA_SSO_CHECK string Property name. The SDK defines value and meaning.
+---@field SHIP_XIANLIAO_SSO_CHECK string Property name. The SDK defines value and meaning.
+---@field SHIP_DOUYIN_SSO_CHECK string Property name. The SDK defines value and meaning.
+---@field FF_METHOD string Property name. The SDK defines value and meaning.
+---@field DOUYIN_CLIENT_KEY string Property name. The SDK defines value and meaning.
+---@field ENABLE_NAVIGATION_BAR string Property name. The SDK defines value and meaning.
+---@field ENABLE_FORCE_DOWNLOAD string Property name. The SDK defines value and meaning.
 
 -- ## Launcher, advertising, carrier and external channel
 -- Strings: property names, carriers (`CCTYPE_*`), to compare with `getCCTypeByImsi`, and `CHANNEL_UNKNOW`.
 
 ---@class velora
----@field LAUNCHER_NAME string Property name. Value and meaning are the SDK's.
----@field APPSFLYER_DEV_KEY string Property name. Value and meaning are the SDK's.
----@field ADVERTISER_APPID string Property name. Value and meaning are the SDK's.
----@field TIMELINE_KEY string Property name. Value and meaning are the SDK's.
----@field CHANNEL_UNKNOW string An unknown channel. The value is the SDK's.
----@field CCTYPE_UNKNOW string Carrier, to compare with `getCCTypeByImsi`: unknown. The value is the SDK's.
----@field CCTYPE_CMCC string Carrier, to compare with `getCCTypeByImsi`. Value and meaning are the SDK's.
----@field CCTYPE_CUCC string Carrier, to compare with `getCCTypeByImsi`. Value and meaning are the SDK's.
----@field CCTYPE_CTCC string Carrier, to compare with `getCCTypeByImsi`. Value and meaning are the SDK's.
----@field EXTERNAL_CHANNEL string Property name. Value and meaning are the SDK's.
----@field EXTERNAL_OP_LIST string Property name. Value and meaning are the SDK's.
----@field EXTRA_DATA string Property name. Value and meaning are the SDK's.
----@field TIMESTAMP string Property name. Value and meaning are the SDK's.
----@field PLATFORM_KEY string Property name. Value and meaning are the SDK's.
+---@field LAUNCHER_NAME string Property name. The SDK defines value and meaning.
+---@field APPSFLYER_DEV_KEY string Property name. The SDK defines value and meaning.
+---@field ADVERTISER_APPID string Property name. The SDK defines value and meaning.
+---@field TIMELINE_KEY string Property name. The SDK defines value and meaning.
+---@field CHANNEL_UNKNOW string An unknown channel. The SDK defines the value.
+---@field CCTYPE_UNKNOW string Carrier, to compare with `getCCTypeByImsi`: unknown. The SDK defines the value.
+---@field CCTYPE_CMCC string Carrier, to compare with `getCCTypeByImsi`. The SDK defines value and meaning.
+---@field CCTYPE_CUCC string Carrier, to compare with `getCCTypeByImsi`. The SDK defines value and meaning.
+---@field CCTYPE_CTCC string Carrier, to compare with `getCCTypeByImsi`. The SDK defines value and meaning.
+---@field EXTERNAL_CHANNEL string Property name. The SDK defines value and meaning.
+---@field EXTERNAL_OP_LIST string Property name. The SDK defines value and meaning.
+---@field EXTRA_DATA string Property name. The SDK defines value and meaning.
+---@field TIMESTAMP string Property name. The SDK defines value and meaning.
+---@field PLATFORM_KEY string Property name. The SDK defines value and meaning.
 
 -- ## Game regions
 -- Strings: the property `GAME_REGION` and its values.
 
 ---@class velora
----@field GAME_REGION string Property name. Value and meaning are the SDK's.
----@field GAME_REGION_CN string Value of `GAME_REGION`. Value and meaning are the SDK's.
----@field GAME_REGION_AS string Value of `GAME_REGION`. Value and meaning are the SDK's.
----@field GAME_REGION_US string Value of `GAME_REGION`. Value and meaning are the SDK's.
----@field GAME_REGION_SA string Value of `GAME_REGION`. Value and meaning are the SDK's.
----@field GAME_REGION_JP string Value of `GAME_REGION`. Value and meaning are the SDK's.
+---@field GAME_REGION string Property name. The SDK defines value and meaning.
+---@field GAME_REGION_CN string Value of `GAME_REGION`. The SDK defines value and meaning.
+---@field GAME_REGION_AS string Value of `GAME_REGION`. The SDK defines value and meaning.
+---@field GAME_REGION_US string Value of `GAME_REGION`. The SDK defines value and meaning.
+---@field GAME_REGION_SA string Value of `GAME_REGION`. The SDK defines value and meaning.
+---@field GAME_REGION_JP string Value of `GAME_REGION`. The SDK defines value and meaning.
 
 -- ## Languages
 -- Strings: values of `LANGUAGE_CODE`, and two more property names.
 
 ---@class velora
----@field LANGUAGE_CODE_ZH_CN string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_ZH_HK string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_ZH_TW string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_EN string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_ES_EUR string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_ES string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_PT_EUR string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_PT string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_AR string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_DE string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_FR string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_IN string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_IT string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_JA string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_KO string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_MS string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_NL string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_RU string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_TH string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_VI string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field LANGUAGE_CODE_AUTO string Value of `LANGUAGE_CODE`. Value and meaning are the SDK's.
----@field GAME_SELECT_LANGUAGE string Property name. Value and meaning are the SDK's.
----@field GAME_SUPPORT_LANGUAGE string Property name. Value and meaning are the SDK's.
+---@field LANGUAGE_CODE_ZH_CN string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_ZH_HK string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_ZH_TW string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_EN string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_ES_EUR string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_ES string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_PT_EUR string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_PT string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_AR string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_DE string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_FR string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_IN string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_IT string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_JA string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_KO string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_MS string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_NL string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_RU string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_TH string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_VI string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field LANGUAGE_CODE_AUTO string Value of `LANGUAGE_CODE`. The SDK defines value and meaning.
+---@field GAME_SELECT_LANGUAGE string Property name. The SDK defines value and meaning.
+---@field GAME_SUPPORT_LANGUAGE string Property name. The SDK defines value and meaning.
 
 -- ## Inner modes, data report mode, product and package
 -- Strings: property names. Integers: values of `DATA_REPORT_MODE`.
 
 ---@class velora
----@field INNER_MODE_SECOND_CHANNEL string Property name. Value and meaning are the SDK's.
----@field INNER_MODE_SPECIAL_LOGIN_CHANNEL string Property name. Value and meaning are the SDK's.
----@field CALL_LIFECYCLE_AFTER_INIT string Property name. Value and meaning are the SDK's.
----@field DK_APPID string Property name. Value and meaning are the SDK's.
----@field DK_APP_KEY string Property name. Value and meaning are the SDK's.
----@field DATA_REPORT_MODE string Property name. Value and meaning are the SDK's.
----@field DATA_REPORT_MODE_DEFAULT integer Value of `DATA_REPORT_MODE`. Value and meaning are the SDK's.
----@field DATA_REPORT_MODE_AFTER_LOGIN integer Value of `DATA_REPORT_MODE`. Value and meaning are the SDK's.
----@field PRODUCT_NAME_PREFIX string Property name. Value and meaning are the SDK's.
----@field PACKAGE_URL string Property name. Value and meaning are the SDK's.
----@field HAS_3N string Property name. Value and meaning are the SDK's.
----@field FF_TOKEN string Property name. Value and meaning are the SDK's.
----@field PF string Property name. Value and meaning are the SDK's.
----@field PFKEY string Property name. Value and meaning are the SDK's.
+---@field INNER_MODE_SECOND_CHANNEL string Property name. The SDK defines value and meaning.
+---@field INNER_MODE_SPECIAL_LOGIN_CHANNEL string Property name. The SDK defines value and meaning.
+---@field CALL_LIFECYCLE_AFTER_INIT string Property name. The SDK defines value and meaning.
+---@field DK_APPID string Property name. The SDK defines value and meaning.
+---@field DK_APP_KEY string Property name. The SDK defines value and meaning.
+---@field DATA_REPORT_MODE string Property name. The SDK defines value and meaning.
+---@field DATA_REPORT_MODE_DEFAULT integer Value of `DATA_REPORT_MODE`. The SDK defines value and meaning.
+---@field DATA_REPORT_MODE_AFTER_LOGIN integer Value of `DATA_REPORT_MODE`. The SDK defines value and meaning.
+---@field PRODUCT_NAME_PREFIX string Property name. The SDK defines value and meaning.
+---@field PACKAGE_URL string Property name. The SDK defines value and meaning.
+---@field HAS_3N string Property name. The SDK defines value and meaning.
+---@field FF_TOKEN string Property name. The SDK defines value and meaning.
+---@field PF string Property name. The SDK defines value and meaning.
+---@field PFKEY string Property name. The SDK defines value and meaning.
 
 -- ## Domain and social application ids
 -- Strings: property names.
 
 ---@class velora
----@field VELORA_DOMAIN string Property name. Value and meaning are the SDK's.
----@field QQ_APPID string Property name. Value and meaning are the SDK's.
----@field QQ_APP_KEY string Property name. Value and meaning are the SDK's.
----@field WX_APPID string Property name. Value and meaning are the SDK's.
----@field WX_APP_KEY string Property name. Value and meaning are the SDK's.
----@field OFFER_ID string Property name. Value and meaning are the SDK's.
+---@field VELORA_DOMAIN string Property name. The SDK defines value and meaning.
+---@field QQ_APPID string Property name. The SDK defines value and meaning.
+---@field QQ_APP_KEY string Property name. The SDK defines value and meaning.
+---@field WX_APPID string Property name. The SDK defines value and meaning.
+---@field WX_APP_KEY string Property name. The SDK defines value and meaning.
+---@field OFFER_ID string Property name. The SDK defines value and meaning.
 
 -- ## Verification, language, country, user and store
 -- Strings: property names.
 
 ---@class velora
----@field VERIFY_MODE string Property name. Value and meaning are the SDK's.
----@field LANGUAGE_CODE string Property name. Value and meaning are the SDK's.
----@field COUNTRY_CODE string Property name. Value and meaning are the SDK's.
----@field USER_TYPE string Property name. Value and meaning are the SDK's.
----@field USER_KEY string Property name. Value and meaning are the SDK's.
----@field VERIFY_TYPE string Property name. Value and meaning are the SDK's.
----@field STORE_TYPE string Property name. Value and meaning are the SDK's.
----@field PURCHASE_REG_SERVER string Property name. Value and meaning are the SDK's.
+---@field VERIFY_MODE string Property name. The SDK defines value and meaning.
+---@field LANGUAGE_CODE string Property name. The SDK defines value and meaning.
+---@field COUNTRY_CODE string Property name. The SDK defines value and meaning.
+---@field USER_TYPE string Property name. The SDK defines value and meaning.
+---@field USER_KEY string Property name. The SDK defines value and meaning.
+---@field VERIFY_TYPE string Property name. The SDK defines value and meaning.
+---@field STORE_TYPE string Property name. The SDK defines value and meaning.
+---@field PURCHASE_REG_SERVER string Property name. The SDK defines value and meaning.
 
 -- ## SDK server, order addresses and logging
 -- Strings: property names.
 
 ---@class velora
----@field REQUEST_VELORA_SERVER string Property name. Value and meaning are the SDK's.
----@field VELORA_SERVER_KEY string Property name. Value and meaning are the SDK's.
----@field VELORA_CREATEORDER_URL string Property name. Value and meaning are the SDK's.
----@field VELORA_QUERYORDER_URL string Property name. Value and meaning are the SDK's.
----@field VELORA_CONSUMEORDER_URL string Property name. Value and meaning are the SDK's.
----@field VELORA_SERVER_PRIVATEPARAM string Property name. Value and meaning are the SDK's.
----@field VELORA_SERVER_EXTPARAM string Property name. Value and meaning are the SDK's.
----@field VELORA_EXT_INFO string Property name. Value and meaning are the SDK's.
----@field CHANNEL_EXT_INFO string Property name. Value and meaning are the SDK's.
----@field ENABLE_GOOGE_PLAY_PROMO_CODES string Property name. Value and meaning are the SDK's.
----@field ENABLE_KAKAO_GAME_SHOP string Property name. Value and meaning are the SDK's.
----@field VELORA_JF_TIMEOUT string Property name. Value and meaning are the SDK's.
----@field VELORA_JF_GAS3 string Property name. Value and meaning are the SDK's.
----@field VELORA_JF_GAS3_WEB string Property name. Value and meaning are the SDK's.
----@field VELORA_JF_CREATEINDEX string Property name. Value and meaning are the SDK's.
----@field VELORA_JF_GAS3_URL string Property name. Value and meaning are the SDK's.
----@field VELORA_SERVER_MODE string Property name. Value and meaning are the SDK's.
----@field SHARE_ERR_CODE string Property name. Value and meaning are the SDK's.
----@field JF_OPEN_LOG_URL string Property name. Value and meaning are the SDK's.
----@field JF_FF_LOG_URL string Property name. Value and meaning are the SDK's.
----@field VELORA_LOG_STATUS string Property name. Value and meaning are the SDK's.
----@field JF_CLIENT_LOG_URL string Property name. Value and meaning are the SDK's.
----@field JF_LOG_KEY string Property name. Value and meaning are the SDK's.
----@field JF_CLIENT_KEY string Property name. Value and meaning are the SDK's.
----@field JF_GAMEID string Property name. Value and meaning are the SDK's.
----@field XM_GAMEID string Property name. Value and meaning are the SDK's.
----@field YY_GAMEID string Property name. Value and meaning are the SDK's.
----@field HAS_FF_CB string Property name. Value and meaning are the SDK's.
----@field NEED_PLAY_GAME_SERVICE string Property name. Value and meaning are the SDK's.
----@field VELORA_SERVER_URL string Property name. Value and meaning are the SDK's.
----@field CODE_SCANNER_FF_URL string Property name. Value and meaning are the SDK's.
----@field ENABLE_VELORA_GUEST_DISCONNECT string Property name. Value and meaning are the SDK's.
----@field ENABLE_VELORA_GUEST_UI string Property name. Value and meaning are the SDK's.
----@field ENABLE_VELORA_PERMISSION_UI string Property name. Value and meaning are the SDK's.
----@field ZV_CALLBACK_MESSAGE string Property name. Value and meaning are the SDK's.
----@field MINI_RESPONSE string Property name. Value and meaning are the SDK's.
----@field ZV_ERROR_CODE string Property name. Value and meaning are the SDK's.
----@field SUCCESS_ACTIVITY_CALSSS string Property name. Value and meaning are the SDK's.
----@field FAIL_ACTIVITY_CALSSS string Property name. Value and meaning are the SDK's.
----@field FLOATBTN_CLOSED string Property name. Value and meaning are the SDK's.
----@field UPDATE_CHECK_URL string Property name. Value and meaning are the SDK's.
----@field UPDATE_DOWNLOAD_URL string Property name. Value and meaning are the SDK's.
----@field ZV_COMPACT_URL string Property name. Value and meaning are the SDK's.
----@field ZV_COMPACT_LAN string Property name. Value and meaning are the SDK's.
----@field ZV_COMPACT_SHOW_AGREE_LINE string Property name. Value and meaning are the SDK's.
----@field ZV_COMPACT_AGREE_LINE_TEXT string Property name. Value and meaning are the SDK's.
----@field ENABLE_TV string Property name. Value and meaning are the SDK's.
----@field SAUTH_STR string Property name. Value and meaning are the SDK's.
----@field SAUTH_JSON string Property name. Value and meaning are the SDK's.
----@field VELORA_JF_GAS_TOKEN string Property name. Value and meaning are the SDK's.
----@field VELORA_JF_GET_SDKUID string Property name. Value and meaning are the SDK's.
+---@field REQUEST_VELORA_SERVER string Property name. The SDK defines value and meaning.
+---@field VELORA_SERVER_KEY string Property name. The SDK defines value and meaning.
+---@field VELORA_CREATEORDER_URL string Property name. The SDK defines value and meaning.
+---@field VELORA_QUERYORDER_URL string Property name. The SDK defines value and meaning.
+---@field VELORA_CONSUMEORDER_URL string Property name. The SDK defines value and meaning.
+---@field VELORA_SERVER_PRIVATEPARAM string Property name. The SDK defines value and meaning.
+---@field VELORA_SERVER_EXTPARAM string Property name. The SDK defines value and meaning.
+---@field VELORA_EXT_INFO string Property name. The SDK defines value and meaning.
+---@field CHANNEL_EXT_INFO string Property name. The SDK defines value and meaning.
+---@field ENABLE_GOOGE_PLAY_PROMO_CODES string Property name. The SDK defines value and meaning.
+---@field ENABLE_KAKAO_GAME_SHOP string Property name. The SDK defines value and meaning.
+---@field VELORA_JF_TIMEOUT string Property name. The SDK defines value and meaning.
+---@field VELORA_JF_GAS3 string Property name. The SDK defines value and meaning.
+---@field VELORA_JF_GAS3_WEB string Property name. The SDK defines value and meaning.
+---@field VELORA_JF_CREATEINDEX string Property name. The SDK defines value and meaning.
+---@field VELORA_JF_GAS3_URL string Property name. The SDK defines value and meaning.
+---@field VELORA_SERVER_MODE string Property name. The SDK defines value and meaning.
+---@field SHARE_ERR_CODE string Property name. The SDK defines value and meaning.
+---@field JF_OPEN_LOG_URL string Property name. The SDK defines value and meaning.
+---@field JF_FF_LOG_URL string Property name. The SDK defines value and meaning.
+---@field VELORA_LOG_STATUS string Property name. The SDK defines value and meaning.
+---@field JF_CLIENT_LOG_URL string Property name. The SDK defines value and meaning.
+---@field JF_LOG_KEY string Property name. The SDK defines value and meaning.
+---@field JF_CLIENT_KEY string Property name. The SDK defines value and meaning.
+---@field JF_GAMEID string Property name. The SDK defines value and meaning.
+---@field XM_GAMEID string Property name. The SDK defines value and meaning.
+---@field YY_GAMEID string Property name. The SDK defines value and meaning.
+---@field HAS_FF_CB string Property name. The SDK defines value and meaning.
+---@field NEED_PLAY_GAME_SERVICE string Property name. The SDK defines value and meaning.
+---@field VELORA_SERVER_URL string Property name. The SDK defines value and meaning.
+---@field CODE_SCANNER_FF_URL string Property name. The SDK defines value and meaning.
+---@field ENABLE_VELORA_GUEST_DISCONNECT string Property name. The SDK defines value and meaning.
+---@field ENABLE_VELORA_GUEST_UI string Property name. The SDK defines value and meaning.
+---@field ENABLE_VELORA_PERMISSION_UI string Property name. The SDK defines value and meaning.
+---@field ZV_CALLBACK_MESSAGE string Property name. The SDK defines value and meaning.
+---@field MINI_RESPONSE string Property name. The SDK defines value and meaning.
+---@field ZV_ERROR_CODE string Property name. The SDK defines value and meaning.
+---@field SUCCESS_ACTIVITY_CALSSS string Property name. The SDK defines value and meaning.
+---@field FAIL_ACTIVITY_CALSSS string Property name. The SDK defines value and meaning.
+---@field FLOATBTN_CLOSED string Property name. The SDK defines value and meaning.
+---@field UPDATE_CHECK_URL string Property name. The SDK defines value and meaning.
+---@field UPDATE_DOWNLOAD_URL string Property name. The SDK defines value and meaning.
+---@field ZV_COMPACT_URL string Property name. The SDK defines value and meaning.
+---@field ZV_COMPACT_LAN string Property name. The SDK defines value and meaning.
+---@field ZV_COMPACT_SHOW_AGREE_LINE string Property name. The SDK defines value and meaning.
+---@field ZV_COMPACT_AGREE_LINE_TEXT string Property name. The SDK defines value and meaning.
+---@field ENABLE_TV string Property name. The SDK defines value and meaning.
+---@field SAUTH_STR string Property name. The SDK defines value and meaning.
+---@field SAUTH_JSON string Property name. The SDK defines value and meaning.
+---@field VELORA_JF_GAS_TOKEN string Property name. The SDK defines value and meaning.
+---@field VELORA_JF_GET_SDKUID string Property name. The SDK defines value and meaning.
 
 -- ## Device report fields
 -- Strings: names of the fields of a device report.
 
 ---@class velora
----@field SDC_LOG_DEVICE_HEIGHT string Field of a device report. Value and meaning are the SDK's.
----@field SDC_LOG_DEVICE_WIDTH string Field of a device report. Value and meaning are the SDK's.
----@field SDC_LOG_OS_NAME string Field of a device report. Value and meaning are the SDK's.
----@field SDC_LOG_OS_VER string Field of a device report. Value and meaning are the SDK's.
----@field SDC_LOG_MAC_ADDR string Field of a device report. Value and meaning are the SDK's.
----@field SDC_LOG_DEVICE_MODEL string Field of a device report. Value and meaning are the SDK's.
----@field SDC_LOG_UDID string Field of a device report. Value and meaning are the SDK's.
----@field SDC_LOG_APP_CHANNEL string Field of a device report. Value and meaning are the SDK's.
----@field SDC_LOG_APP_VER string Field of a device report. Value and meaning are the SDK's.
----@field SDC_LOG_APP_NETWORK string Field of a device report. Value and meaning are the SDK's.
----@field SDC_LOG_APP_ISP string Field of a device report. Value and meaning are the SDK's.
+---@field SDC_LOG_DEVICE_HEIGHT string Field of a device report. The SDK defines value and meaning.
+---@field SDC_LOG_DEVICE_WIDTH string Field of a device report. The SDK defines value and meaning.
+---@field SDC_LOG_OS_NAME string Field of a device report. The SDK defines value and meaning.
+---@field SDC_LOG_OS_VER string Field of a device report. The SDK defines value and meaning.
+---@field SDC_LOG_MAC_ADDR string Field of a device report. The SDK defines value and meaning.
+---@field SDC_LOG_DEVICE_MODEL string Field of a device report. The SDK defines value and meaning.
+---@field SDC_LOG_UDID string Field of a device report. The SDK defines value and meaning.
+---@field SDC_LOG_APP_CHANNEL string Field of a device report. The SDK defines value and meaning.
+---@field SDC_LOG_APP_VER string Field of a device report. The SDK defines value and meaning.
+---@field SDC_LOG_APP_NETWORK string Field of a device report. The SDK defines value and meaning.
+---@field SDC_LOG_APP_ISP string Field of a device report. The SDK defines value and meaning.
 
 -- ## Skins, web view background, overseas log addresses
 -- Strings: property names, and values of `SKIN_TYPE` and `WEBVIEW_BKCOLOR`.
 
 ---@class velora
----@field SKIN_TYPE string Property name. Value and meaning are the SDK's.
----@field SKIN_BLACK string Value of `SKIN_TYPE`. Value and meaning are the SDK's.
----@field SKIN_DEFAULT string Value of `SKIN_TYPE`. Value and meaning are the SDK's.
----@field SKIN_CHINESE_WHITE string Value of `SKIN_TYPE`. Value and meaning are the SDK's.
----@field SKIN_CHINESE_BLACK string Value of `SKIN_TYPE`. Value and meaning are the SDK's.
----@field WEBVIEW_BKCOLOR string Property name. Value and meaning are the SDK's.
----@field WEBVIEW_BKCOLOR_WHITE string Value of `WEBVIEW_BKCOLOR`. Value and meaning are the SDK's.
----@field WEBVIEW_BKCOLOR_TRANSPARENT string Value of `WEBVIEW_BKCOLOR`. Value and meaning are the SDK's.
----@field VELORA_DRPF_URL string Property name. Value and meaning are the SDK's.
----@field JF_OVERSEA_FF_LOG_URL string Property name. Value and meaning are the SDK's.
----@field JF_OVERSEA_OPEN_LOG_URL string Property name. Value and meaning are the SDK's.
----@field JF_OVERSEA_CLIENT_LOG_URL string Property name. Value and meaning are the SDK's.
+---@field SKIN_TYPE string Property name. The SDK defines value and meaning.
+---@field SKIN_BLACK string Value of `SKIN_TYPE`. The SDK defines value and meaning.
+---@field SKIN_DEFAULT string Value of `SKIN_TYPE`. The SDK defines value and meaning.
+---@field SKIN_CHINESE_WHITE string Value of `SKIN_TYPE`. The SDK defines value and meaning.
+---@field SKIN_CHINESE_BLACK string Value of `SKIN_TYPE`. The SDK defines value and meaning.
+---@field WEBVIEW_BKCOLOR string Property name. The SDK defines value and meaning.
+---@field WEBVIEW_BKCOLOR_WHITE string Value of `WEBVIEW_BKCOLOR`. The SDK defines value and meaning.
+---@field WEBVIEW_BKCOLOR_TRANSPARENT string Value of `WEBVIEW_BKCOLOR`. The SDK defines value and meaning.
+---@field VELORA_DRPF_URL string Property name. The SDK defines value and meaning.
+---@field JF_OVERSEA_FF_LOG_URL string Property name. The SDK defines value and meaning.
+---@field JF_OVERSEA_OPEN_LOG_URL string Property name. The SDK defines value and meaning.
+---@field JF_OVERSEA_CLIENT_LOG_URL string Property name. The SDK defines value and meaning.
 
 -- ## Patch service and real-name verification
 -- Strings: property names. Integers: values of `REAL_NAME_VERIFIED`.
 
 ---@class velora
----@field EB string Property name. Value and meaning are the SDK's.
----@field VELORA_VELPATCH_CHECK_URL string Property name. Value and meaning are the SDK's.
----@field VELORA_VELPATCH_LOG_URL string Property name. Value and meaning are the SDK's.
----@field REAL_NAME_VERIFIED string Property name. Value and meaning are the SDK's.
----@field REAL_NAME_VERIFIED_NO integer Value of `REAL_NAME_VERIFIED`. Value and meaning are the SDK's.
----@field REAL_NAME_VERIFIED_UNDER_18 integer Value of `REAL_NAME_VERIFIED`. Value and meaning are the SDK's.
----@field REAL_NAME_VERIFIED_18_AND_ABOVE integer Value of `REAL_NAME_VERIFIED`. Value and meaning are the SDK's.
----@field REAL_NAME_VERIFIED_AND_STATUS_UNKNOWN integer Value of `REAL_NAME_VERIFIED`. Value and meaning are the SDK's.
+---@field EB string Property name. The SDK defines value and meaning.
+---@field VELORA_VELPATCH_CHECK_URL string Property name. The SDK defines value and meaning.
+---@field VELORA_VELPATCH_LOG_URL string Property name. The SDK defines value and meaning.
+---@field REAL_NAME_VERIFIED string Property name. The SDK defines value and meaning.
+---@field REAL_NAME_VERIFIED_NO integer Value of `REAL_NAME_VERIFIED`. The SDK defines value and meaning.
+---@field REAL_NAME_VERIFIED_UNDER_18 integer Value of `REAL_NAME_VERIFIED`. The SDK defines value and meaning.
+---@field REAL_NAME_VERIFIED_18_AND_ABOVE integer Value of `REAL_NAME_VERIFIED`. The SDK defines value and meaning.
+---@field REAL_NAME_VERIFIED_AND_STATUS_UNKNOWN integer Value of `REAL_NAME_VERIFIED`. The SDK defines value and meaning.
 
 -- ## Detection, location service, SDK switcher, VESPERA, web view options, welcome window
 -- Strings: property names. Integers: values of `WELCOME_WINDOW_TYPE`.
 
 ---@class velora
----@field NOT_ENABLE_DETECT string Property name. Value and meaning are the SDK's.
----@field X_LBS_TOKEN string Property name. Value and meaning are the SDK's.
----@field VELORA_LBS_URL string Property name. Value and meaning are the SDK's.
----@field SDK_SWITCHER_URL string Property name. Value and meaning are the SDK's.
----@field SDK_SWITCHER_URL_DEFAULT string Property name. Value and meaning are the SDK's.
----@field SDK_SWITCHER_DATA string Property name. Value and meaning are the SDK's.
----@field VESPERA_URL string Property name. Value and meaning are the SDK's.
----@field VESPERA_TID string Property name. Value and meaning are the SDK's.
----@field VESPERA_SERVERLIST string Property name. Value and meaning are the SDK's.
----@field VESPERA_APPVER string Property name. Value and meaning are the SDK's.
----@field VESPERA_USR_AVATARID string Property name. Value and meaning are the SDK's.
----@field VESPERA_USR_STATUS string Property name. Value and meaning are the SDK's.
----@field VESPERA_CUSTOM_LOG string Property name. Value and meaning are the SDK's.
----@field WEBVIEW_CLBTN string Property name. Value and meaning are the SDK's.
----@field WEBVIEW_FULLFIT string Property name. Value and meaning are the SDK's.
----@field WEBVIEW_SUPPORT_BACK_KEY string Property name. Value and meaning are the SDK's.
----@field CLEAR_FOCUS_WHEN_STARTUP string Property name. Value and meaning are the SDK's.
----@field WELCOME_WINDOW_TYPE string Property name. Value and meaning are the SDK's.
----@field WELCOME_WINDOW_TYPE_DEFAULT integer Value of `WELCOME_WINDOW_TYPE`. Value and meaning are the SDK's.
----@field WELCOME_WINDOW_TYPE_TOAST integer Value of `WELCOME_WINDOW_TYPE`. Value and meaning are the SDK's.
----@field WELCOME_WINDOW_TYPE_NONE integer Value of `WELCOME_WINDOW_TYPE`. Value and meaning are the SDK's.
+---@field NOT_ENABLE_DETECT string Property name. The SDK defines value and meaning.
+---@field X_LBS_TOKEN string Property name. The SDK defines value and meaning.
+---@field VELORA_LBS_URL string Property name. The SDK defines value and meaning.
+---@field SDK_SWITCHER_URL string Property name. The SDK defines value and meaning.
+---@field SDK_SWITCHER_URL_DEFAULT string Property name. The SDK defines value and meaning.
+---@field SDK_SWITCHER_DATA string Property name. The SDK defines value and meaning.
+---@field VESPERA_URL string Property name. The SDK defines value and meaning.
+---@field VESPERA_TID string Property name. The SDK defines value and meaning.
+---@field VESPERA_SERVERLIST string Property name. The SDK defines value and meaning.
+---@field VESPERA_APPVER string Property name. The SDK defines value and meaning.
+---@field VESPERA_USR_AVATARID string Property name. The SDK defines value and meaning.
+---@field VESPERA_USR_STATUS string Property name. The SDK defines value and meaning.
+---@field VESPERA_CUSTOM_LOG string Property name. The SDK defines value and meaning.
+---@field WEBVIEW_CLBTN string Property name. The SDK defines value and meaning.
+---@field WEBVIEW_FULLFIT string Property name. The SDK defines value and meaning.
+---@field WEBVIEW_SUPPORT_BACK_KEY string Property name. The SDK defines value and meaning.
+---@field CLEAR_FOCUS_WHEN_STARTUP string Property name. The SDK defines value and meaning.
+---@field WELCOME_WINDOW_TYPE string Property name. The SDK defines value and meaning.
+---@field WELCOME_WINDOW_TYPE_DEFAULT integer Value of `WELCOME_WINDOW_TYPE`. The SDK defines value and meaning.
+---@field WELCOME_WINDOW_TYPE_TOAST integer Value of `WELCOME_WINDOW_TYPE`. The SDK defines value and meaning.
+---@field WELCOME_WINDOW_TYPE_NONE integer Value of `WELCOME_WINDOW_TYPE`. The SDK defines value and meaning.
 
 -- ## Permissions, login data, flow, device utilities, source, screen size, guest account
 -- Strings: property names, and names of device utilities.
 
 ---@class velora
----@field REMOVE_PERMISSION_LIST string Property name. Value and meaning are the SDK's.
----@field VELORA_LOGIN_JSON string Property name. Value and meaning are the SDK's.
----@field FLOW_CODE string Property name. Value and meaning are the SDK's.
----@field FLOW_KEY string Property name. Value and meaning are the SDK's.
----@field USERINFO_NUMBER string Property name. Value and meaning are the SDK's.
----@field TRANS_ID string Property name. Value and meaning are the SDK's.
----@field VESPERA_DUMPID string Property name. Value and meaning are the SDK's.
----@field MEDIA_PROJECTION_MANAGER_IN_USE string Property name. Value and meaning are the SDK's.
----@field VELORAUTILS_GET_CPUNAME string Name of a device utility. Value and meaning are the SDK's.
----@field VELORAUTILS_GET_CPUMHZ string Name of a device utility. Value and meaning are the SDK's.
----@field VELORAUTILS_GET_CPUCORE string Name of a device utility. Value and meaning are the SDK's.
----@field VELORAUTILS_IS_DEVICEROOTED3 string Name of a device utility. Value and meaning are the SDK's.
----@field VELORA_QRCODE_FILE string Property name. Value and meaning are the SDK's.
----@field SOURCE_APP_CHANNEL string Property name. Value and meaning are the SDK's.
----@field SOURCE_PLATFORM string Property name. Value and meaning are the SDK's.
----@field PRI_SAC string Property name. Value and meaning are the SDK's.
----@field PRI_SP string Property name. Value and meaning are the SDK's.
----@field VELORA_WIDTH string Property name. Value and meaning are the SDK's.
----@field VELORA_HEIGHT string Property name. Value and meaning are the SDK's.
----@field VELORA_GUEST_LOGIN_STATE string Property name. Value and meaning are the SDK's.
----@field VELORA_HAS_LOCAL_GUEST_ACCOUNT string Property name. Value and meaning are the SDK's.
----@field GUEST_RECOVERY_CODE string Property name. Value and meaning are the SDK's.
----@field GUEST_BIND_JSON string Property name. Value and meaning are the SDK's.
+---@field REMOVE_PERMISSION_LIST string Property name. The SDK defines value and meaning.
+---@field VELORA_LOGIN_JSON string Property name. The SDK defines value and meaning.
+---@field FLOW_CODE string Property name. The SDK defines value and meaning.
+---@field FLOW_KEY string Property name. The SDK defines value and meaning.
+---@field USERINFO_NUMBER string Property name. The SDK defines value and meaning.
+---@field TRANS_ID string Property name. The SDK defines value and meaning.
+---@field VESPERA_DUMPID string Property name. The SDK defines value and meaning.
+---@field MEDIA_PROJECTION_MANAGER_IN_USE string Property name. The SDK defines value and meaning.
+---@field VELORAUTILS_GET_CPUNAME string Name of a device utility. The SDK defines value and meaning.
+---@field VELORAUTILS_GET_CPUMHZ string Name of a device utility. The SDK defines value and meaning.
+---@field VELORAUTILS_GET_CPUCORE string Name of a device utility. The SDK defines value and meaning.
+---@field VELORAUTILS_IS_DEVICEROOTED3 string Name of a device utility. The SDK defines value and meaning.
+---@field VELORA_QRCODE_FILE string Property name. The SDK defines value and meaning.
+---@field SOURCE_APP_CHANNEL string Property name. The SDK defines value and meaning.
+---@field SOURCE_PLATFORM string Property name. The SDK defines value and meaning.
+---@field PRI_SAC string Property name. The SDK defines value and meaning.
+---@field PRI_SP string Property name. The SDK defines value and meaning.
+---@field VELORA_WIDTH string Property name. The SDK defines value and meaning.
+---@field VELORA_HEIGHT string Property name. The SDK defines value and meaning.
+---@field VELORA_GUEST_LOGIN_STATE string Property name. The SDK defines value and meaning.
+---@field VELORA_HAS_LOCAL_GUEST_ACCOUNT string Property name. The SDK defines value and meaning.
+---@field GUEST_RECOVERY_CODE string Property name. The SDK defines value and meaning.
+---@field GUEST_BIND_JSON string Property name. The SDK defines value and meaning.
 
 -- ## Project, product, server address, order UI, QR scanner, IPv6
 -- Strings: property names.
 
 ---@class velora
----@field PROJECT_ID string Property name. Value and meaning are the SDK's.
----@field PRODUCT_CODE string Property name. Value and meaning are the SDK's.
----@field SDK_SERVER_URL string Property name. Value and meaning are the SDK's.
----@field ENABLE_VELORA_CREATEORDER_UI string Property name. Value and meaning are the SDK's.
----@field ENABLE_CHANNEL_QRCODESCANNER string Property name. Value and meaning are the SDK's.
----@field JF_AIM_INFO string Property name. Value and meaning are the SDK's.
----@field ENABLE_IP_V6 string Property name. Value and meaning are the SDK's.
+---@field PROJECT_ID string Property name. The SDK defines value and meaning.
+---@field PRODUCT_CODE string Property name. The SDK defines value and meaning.
+---@field SDK_SERVER_URL string Property name. The SDK defines value and meaning.
+---@field ENABLE_VELORA_CREATEORDER_UI string Property name. The SDK defines value and meaning.
+---@field ENABLE_CHANNEL_QRCODESCANNER string Property name. The SDK defines value and meaning.
+---@field JF_AIM_INFO string Property name. The SDK defines value and meaning.
+---@field ENABLE_IP_V6 string Property name. The SDK defines value and meaning.
