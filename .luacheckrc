@@ -1,4 +1,4 @@
--- luacheck reads this file, but stays in the folder that it was started in, which may lie below.
+-- luacheck reads this file, but stays in the folder that it was started in, which may be inside this one.
 local path = "types/luacheck.lua"
 for _ = 1, 10 do
   local file = io.open(path)
@@ -16,10 +16,10 @@ stds.player = annotated.player
 std = "lua53+velora+player"
 exclude_files = { "types/velora.lua", "types/player.lua", "build" }
 
--- What the test programs give their scripts, and what these define for them; metamethods are not annotated.
+-- Globals that the test programs set, those that scripts set for these, and metamethods, which are not annotated.
 files["tests/lua"] = {
   allow_defined = true,
   ignore = { "131" },
-  read_globals = { "answer", "answered", "byte", "calls", "deed", "light", "report", "velora.OrderInfo.__gc",
+  read_globals = { "answer", "byte", "calls", "inject", "light", "report", "used", "velora.OrderInfo.__gc",
     "velora.ShareInfo.__gc", "velora.ProductInfo.__gc" },
 }

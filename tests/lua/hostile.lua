@@ -1,5 +1,5 @@
--- Shared by the hostile tests, which define inject(n, k): injects their n-th fault into all operations of the SDK but the
--- next k, and returns whether an operation has had a fault since the last call.
+-- Shared by the hostile tests, which define inject(n, k): injects their n-th fault into all operations of the SDK but
+-- the next k, and returns whether an operation has had a fault since the last call.
 order, share, product = velora.OrderInfo.new("o"), velora.ShareInfo.new("s"), velora.ProductInfo.new()
 function noop() end
 
@@ -46,8 +46,8 @@ local function callAll(call)
   end
 end
 
--- The collector runs in the module's own functions only, and finishes a cycle, with `finalizer` at its end, as soon as one
--- of them allocates. Returns whether there were many calls, and whether many raised the finalizer's error.
+-- The collector runs in the module's own functions only, and finishes a cycle, with `finalizer` at its end, as soon as
+-- one of them allocates. Returns whether there were many calls, and whether many raised the finalizer's error.
 function callWithFinalizer(finalizer)
   collectgarbage("stop") collectgarbage("setpause", 0) collectgarbage("setstepmul", 1000000)
   local calls, raised, action = 0, 0, noop
