@@ -1,11 +1,12 @@
-// Memory for the objects that userdata own. Objects of one type are in slabs. These take less memory than a heap block
-// and a list node per object, and are listed, so that all objects are found when the state closes.
+// Memory for the objects that userdata own. Objects of one type are in slabs: that takes less memory than a heap block
+// and a list node per object. The slabs are in lists, so that all objects are found when the state closes.
 #pragma once
 
 #include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 
 namespace luavelora {
 
@@ -58,9 +59,9 @@ class Pin {
 
 // The slabs of one type of object in one Lua state.
 struct Pool {
-  Slab* open = nullptr;  // those with a free slot
-  Slab* full = nullptr;
-  std::size_t slabs = 0;
+  Slab* open = nullptr;   // the first of those with a free slot
+  Slab* full = nullptr;   // the first of those without
+  std::size_t slabs = 0;  // the number of both
 };
 
 // One heap block with slots for objects of one type. It is freed with its last object, unless it is the only one of its
@@ -76,7 +77,7 @@ class Slab {
   Slab(const Slab&) = delete;
   Slab& operator=(const Slab&) = delete;
 
-  // Takes a free slot and returns its number. The slab must be open.
+  // Takes a free slot and returns its number. The slab must have one.
   unsigned TakeSlot() {
     const auto slot = static_cast<unsigned>(std::countr_one(taken_));
     taken_ |= Bit(slot);
