@@ -29,7 +29,7 @@ struct ModuleState {
   int metatables[kMaxClasses];  // registry references of the record classes' metatables
 
   // Creates an object in the pool of Object::kClass and returns it. It is freed by its Release or else when the state
-  // closes. Returns null if the state is closed, even if it was the constructor that ran script code that closed it.
+  // closes. Returns null if the state is closed, also if the constructor has run script code that closed it.
   template <class Object, class... Arguments>
   Object* Create(Arguments&&... arguments);
 
