@@ -1,6 +1,6 @@
-// The boundary between Lua and C++. Every function that Lua calls is an Entry around a body, and the body returns an
-// Outcome instead of raising an error. Depending on how the host built Lua, a Lua error is a C++ exception or a
-// longjmp, which runs no destructors.
+// The boundary between Lua and C++. Every function that Lua calls, except objects' finalizers, is an Entry around a
+// body, and the body returns an Outcome instead of raising an error. Depending on how the host built Lua, a Lua error
+// is a C++ exception or a longjmp, which runs no destructors.
 #pragma once
 
 #include <cstdio>
