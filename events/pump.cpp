@@ -76,8 +76,8 @@ void LogUnknownType(std::int32_t type) {
 }
 
 // Delivers the rest of the batch. Runs in protected mode. Gets the callback table once, since it stays the same while
-// the state lives. Reads the slot again for every event, since callbacks may change it, except for slots that were
-// empty and no callback has run since.
+// the state lives. Reads the slot again for every event, since callbacks may change it. A slot that was empty is not
+// read again until a callback has run.
 void DeliverRest(lua_State* L, Pass& pass) {
   ModuleState* state = ModuleStateOf(L);
   if (state == nullptr) return;
