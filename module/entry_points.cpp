@@ -38,8 +38,8 @@ void AtClose(lua_State* L, const ModuleState& state) {
 // its functions.
 void Build(lua_State* L) {
   OpenModuleState(L, AtClose);
-  GetSdkCallbackTable(L,
-                      kCallbackTable);  // created here, since creating it in Deinit could run a finalizer that raises
+  // Creates the table, since creating it in Deinit could run a finalizer that raises.
+  GetSdkCallbackTable(L, kCallbackTable);
   lua_pop(L, 1);
   tarn::velora::LogChannel = tarn::log::RegisterChannel("VELORA");
   lua_createtable(L, 0, static_cast<int>(kModuleFunctions.size()) + kConstants);
