@@ -252,8 +252,9 @@ constexpr std::int64_t kSome = 2'000;
 constexpr auto kCalls = Make<Calls>;
 constexpr auto kFrames = Make<Frames>;
 
-// Calls `make(k)` for k from 1 to kRecords and returns what it leaves on the heap per call.
 constexpr int kRecords = 10'000;
+
+// Calls `make(k)` for k from 1 to kRecords and returns what it leaves on the heap per call.
 template <class Make>
 Held HeldPerRecord(lua_State* L, Make make) {
   lua_gc(L, LUA_GCCOLLECT, 0);
