@@ -21,22 +21,6 @@ for _, answer in ipairs{0, 10, "found", false} do
   velora.zvCreateQRCode("text", 300, 200, "code.png")
 end
 
--- With false, no event follows, except a nil account. Without an answer, all events follow.
-local functions = {zvQueryMyAccount = velora, zvOpenManager = velora, zvOpenPauseView = velora, zvCloseWebView = velora,
-  zvCloseFlash = velora, init = velora.download}
-for name, module in pairs(functions) do
-  offline.answer(name, false)
-  module[name]()
-  offline.answer(name, nil)
-end
-offline.answer("extendFunc", false)
-velora.download.extendFunc("nothing")
-offline.answer("extendFunc", nil)
-velora.zvOpenManager() velora.zvOpenPauseView()
-velora.zvCloseWebView()
-velora.zvCloseFlash()
-velora.download.init()
-velora.download.extendFunc("all")
 velora.zvQueryFriendList() velora.zvQuerySkuDetails("inapp", {"lamp"})
 velora.zvLogout()
 

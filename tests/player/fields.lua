@@ -8,11 +8,11 @@ local function show(value)
 end
 
 local rows = {
-  {"sdkPids", {a = "b", c = 1}}, {"sdkPids", {a = 1.5, b = 2.0, c = -1e100, d = true}}, {"sdkPids", {"x", 2}},
+  {"sdkPids", {a = "b\0x", c = 1}}, {"sdkPids", {a = 1.5, b = 2.0, c = -1e100, d = true}}, {"sdkPids", {"x", 2}},
   {"sdkPids", {}}, {"arrPriceLocaleId", {1, 2}}, {"arrPriceLocaleId", {"en", 1.5}}, {"arrPriceLocaleId", {}},
   {"channelGoodsTypes", {a = 1, b = 2.0, c = 1 << 62 | 5}}, {"jellRatios", {7, 8}}, {"jellRatios", {}},
   {"aid", 2.0}, {"aid", 1 << 53 | 1}, {"aid", false}, {"count", 3.0}, {"count", true}, {"count", -0x1p63},
-  {"productPrice", 2}, {"qrCodeOrder", 2},
+  {"productPrice", 2}, {"qrCodeOrder", 2}, {"timeStamp", 1 << 40}, {"receipt", "r\0x"}, {"orderErrCode", "E1"},
 }
 velora.setOnOrderCheckDone(function(order)
   local name, value = table.unpack(table.remove(rows, 1))
