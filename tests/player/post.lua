@@ -1,7 +1,8 @@
--- Events by number, and the argument errors of offline.post and the other controls.
+-- The event of each number, and the argument errors of offline.post and the other controls.
 for setter, set in pairs(velora) do
-  if setter:find("^setOn") then set(function(...) print(setter, ...) end) end
+  if setter:find("^setOn") then set(function(value) print(setter, tonumber(value)) end) end
 end
+for number = 0, 59 do offline.post(number) end
 offline.post(15, 9)
 offline.post(60)
 local finished = velora.OrderInfo.new("x")
