@@ -8,25 +8,18 @@ v.setPropInt(("long"):rep(100), 0.5, 1 << 62, -1e300, true, nil, print, io.stdou
 v.setPropInt(("ö"):rep(50), coroutine.create(print))
 
 -- Wrappers, callbacks, class functions, methods, downloads; also functions that never call the SDK.
-v.isBinded()
-v.hasFeature({})
-v.zvCheckOrder("gold.60")
 v.setOnLoginDone(nil)
 v:setOnLoginDone(print)
-v.OrderInfo.hasProduct({})
-v.SkuDetailsInfo.new("id")
-order.set_aid("x")
-order:set_arrPriceLocaleId("x")
-v.OrderInfo.get_aid(share)
-v.OrderInfo.set_aid(nil, 5)
-v.ProductInfo.get_productId(order)
-v.ProductInfo.set_sdkPids({}, {})
-v.ShareInfo.get_textMsg(nil)
-v.ShareInfo.set_toUserList(order, {})
-v.PadEvent.get_x({})
-v.ShareInfo.__tostring(order)
-v.download.extendFunc({})
-v.download.setSyncDownloadHandler("x")
+for _, call in ipairs{
+  { v.isBinded }, { v.hasFeature, {} }, { v.zvCheckOrder, "gold.60" }, { v.OrderInfo.hasProduct, {} },
+  { v.SkuDetailsInfo.new, "id" }, { order.set_aid, "x" }, { order.set_arrPriceLocaleId, order, "x" },
+  { v.OrderInfo.get_aid, share }, { v.OrderInfo.set_aid, nil, 5 }, { v.ProductInfo.get_productId, order },
+  { v.ProductInfo.set_sdkPids, {}, {} }, { v.ShareInfo.get_textMsg }, { v.ShareInfo.set_toUserList, order, {} },
+  { v.PadEvent.get_x, {} }, { v.ShareInfo.__tostring, order }, { v.download.extendFunc, {} },
+  { v.download.setSyncDownloadHandler, "x" },
+} do
+  call[1](table.unpack(call, 2))
+end
 local finalized = v.OrderInfo.new("gold.60")
 finalized:__gc()
 finalized:__gc()
@@ -61,36 +54,24 @@ v.zvCheckOrder(order)
 
 -- Accepted calls that return nil or nothing, and calls that raise an error.
 offline.answer("getChannel", false)
-v.getChannel()
-v.getCmdLineParameter()
-v.zvGetCheckedOrders()
-v.OrderInfo.getProductList()
-v.getOnLoginDone()
-v.download.getSyncDownloadHandler()
-v.download.setSyncDownloadHandler()
-v.setOnFinishInit(print, 1)
-v.getPropStr("NAME", {})
-v.setPropStr("NAME", 5)
-v.hasFeature("x")
-v.OrderInfo.hasProduct("gold.60")
-order:set_arrPriceLocaleId({})
-order:set_aid(nil)
-order:get_aid()
-share:get_textMsg()
-share:set_textMsg{ a = 1 }
-share:get_shareData()
 local product = v.ProductInfo.new()
+for _, call in ipairs{
+  { v.getChannel }, { v.getCmdLineParameter }, { v.zvGetCheckedOrders }, { v.OrderInfo.getProductList },
+  { v.getOnLoginDone }, { v.download.getSyncDownloadHandler }, { v.download.setSyncDownloadHandler },
+  { v.setOnFinishInit, print, 1 }, { v.getPropStr, "NAME", {} }, { v.setPropStr, "NAME", 5 }, { v.hasFeature, "x" },
+  { v.OrderInfo.hasProduct, "gold.60" }, { order.set_arrPriceLocaleId, order, {} }, { order.get_aid, order },
+  { share.get_textMsg, share }, { share.set_textMsg, share, { a = 1 } }, { share.get_shareData, share },
+  { product.get_sdkPids, product }, { tostring, order }, { tostring, share }, { tostring, product }, { v.isInit },
+} do
+  call[1](table.unpack(call, 2))
+end
+order:set_aid(nil)
 product:set_productId()
-product:get_sdkPids()
-tostring(order)
-tostring(share)
-tostring(product)
 local _, message = pcall(function() v.zvShowRewardView("x") end)
 assert(message == "strict.lua:" .. debug.getinfo(1, "l").currentline - 1 .. ": ptrmust be table")
 assert(not pcall(v.zvLumoSetOption, "x", {}))
 assert(not pcall(v.setCmdLineParameter, {}))
 assert(not pcall(share.set_textMsg, share, 1))
-v.isInit()
 
 -- Ways to call: pcall, tail calls, coroutines, metamethods, finalizers, chunks.
 pcall(v.isBinded)
