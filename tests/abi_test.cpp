@@ -91,18 +91,28 @@ TEST_F(Abi, RecordsHaveTheirOperationsInTheirSlots) {
               "GET action deviceId eventTime keyCode motionKeyCode pressure state stateAction x y");
 }
 
-TEST_F(Abi, TheDownloadHandlerHasThreeSlots) {
+// The service calls the handler through its three slots.
+TEST_F(Abi, TheSlotsOfTheDownloadHandlerReachItsFunctions) {
   Host host;
   host.Run(
       "calls = {} function note(name) return function(...) calls[#calls + 1] = {name, ...} end end "
       "velora.download.setSyncDownloadHandler{onInited = note('inited'), onProgress = note('progress'), "
       "onFinish = note('finish')}");
   void* handler = offline::Handlers().at(0);
+  const auto finish = CallSlot<const char*, const void*, std::uint64_t>;
   CallSlot(handler, 0);
   CallSlot<const char*>(handler, 1, "50");
-  CallSlot<const char*, const void*, std::uint64_t>(handler, 2, "done", "a\0b", 3);
+  CallSlot<const char*>(handler, 1, nullptr);
+  finish(handler, 2, nullptr, "a\0b", 3);
+  finish(handler, 2, "t", "x", 0);
+  finish(handler, 2, "t", nullptr, 5);
+  DeinitLuaVelora(host.L);
+  CallSlot(handler, 0);
   EXPECT_EQ(host.Run("return table.unpack(calls)"),
-            "{[1]=\"inited\"}, {[1]=\"progress\", [2]=\"50\"}, {[1]=\"finish\", [2]=\"done\", [3]=\"a\\0b\"}");
+            "{[1]=\"inited\"}, {[1]=\"progress\", [2]=\"50\"}, {[1]=\"progress\"}, "
+            "{[1]=\"finish\", [2]=\"\", [3]=\"a\\0b\"}, {[1]=\"finish\", [2]=\"t\"}, "
+            "{[1]=\"finish\", [2]=\"t\"}, {[1]=\"inited\"}");
+  EXPECT_EQ(lua_gettop(host.L), 0);
 }
 
 // A share hands the SDK a record that holds the caches, each in its own field, written in the order of the fields.
@@ -118,20 +128,20 @@ TEST_F(Abi, SharingWritesTheCachesIntoTheRecord) {
                              "textMsg", "toUserList"})
       expected += "ShareInfo." + access + name + ' ';
   EXPECT_EQ(operations, expected + "zvCheckArgs ");
+  const auto content = [](void* share) {
+    std::string text;
+    luavelora::HolderIn<tarn::velora::ShareInfo>(share)->record->toString(text);
+    return text;
+  };
   for (const char* flush : {"velora.zvShare", "velora.zvCheckArgs", "tostring"}) {
     host.Run(R"(
       share = velora.ShareInfo.new() share:set_toUserList{'a'}
       for _, name in ipairs{'aLinkParams', 'altTextMsg', 'iLinkParams', 'linkParams', 'linkTextMsg', 'subTextMsg',
         'textMsg'} do share['set_' .. name](share, {k = name}) end)");
     lua_getglobal(host.L, "share");
-    const auto record = luavelora::HolderIn<tarn::velora::ShareInfo>(lua_touserdata(host.L, -1))->record;
-    lua_pop(host.L, 1);
-    std::string text;
-    EXPECT_TRUE(record->toString(text));
-    EXPECT_EQ(text, "ShareInfo() {}");
+    EXPECT_EQ(content(lua_touserdata(host.L, -1)), "ShareInfo() {}");
     host.Run(std::string(flush) + "(share)");
-    EXPECT_TRUE(record->toString(text));
-    EXPECT_EQ(text,
+    EXPECT_EQ(content(lua_touserdata(host.L, -1)),
               "ShareInfo() {\"aLinkParams\":{\"k\":\"aLinkParams\"},\"altTextMsg\":{\"k\":\"altTextMsg\"},"
               "\"iLinkParams\":{\"k\":\"iLinkParams\"},\"linkParams\":{\"k\":\"linkParams\"},"
               "\"linkTextMsg\":{\"k\":\"linkTextMsg\"},\"subTextMsg\":{\"k\":\"subTextMsg\"},"

@@ -29,21 +29,6 @@ const char* const kOff = "enableAsyncEvent(false); removeSyncDownloadHandler(<ha
 const char* const kOn =
     "enableAsyncEvent(false); removeSyncDownloadHandler(<handler>); addSyncDownloadHandler(<handler>)";
 
-TEST_F(Download, FunctionsCallTheService) {
-  for (const char* query : {"query", "getDownloadSDKVersion", "getOrbitSessionId"}) {
-    offline::SetAnswer(query, std::string("a\0b", 3));
-    EXPECT_EQ(host.Run(std::string("return d.") + query + "(1)"), "\"a\"");
-    offline::SetAnswer(query, false);
-    EXPECT_EQ(host.Run(std::string("return d.") + query + "()"), "");
-    offline::TakeCalls();
-  }
-  Check(host, "return d.init({})", "", "init()");
-  Check(host, "return d.disableDownloadFinish2()", "", "disableDownloadFinish2()");
-  Check(host, "return d.extendFunc(12)", "", R"(extendFunc("12"))");
-  Check(host, R"(return d.extendFunc('a\0b'))", "", R"(extendFunc("a"))");
-  for (const char* bad : {"return d.extendFunc({})", "return d.extendFunc()"}) Check(host, bad, "");
-}
-
 TEST_F(Download, RegisteringFollowsItsSteps) {
   const char* const kInvalid = "error: test:1: setSyncDownloadHandler with invalid lua handler";
   Check(host, "return d.getSyncDownloadHandler()", "");
@@ -67,25 +52,6 @@ TEST_F(Download, RegisteringFollowsItsSteps) {
   Check(host, "return d.setSyncDownloadHandler()", "", kOff);
   Check(host, "return kept, d.getSyncDownloadHandler()", "{}");
   EXPECT_TRUE(offline::Handlers().empty());
-}
-
-TEST_F(Download, CallsOfTheServiceReachTheFunctions) {
-  host.Run("d.setSyncDownloadHandler(handler)");
-  auto* handler = offline::Handlers().at(0);
-  handler->onInited();
-  handler->onProgress("50");
-  handler->onProgress(nullptr);
-  handler->onFinish(nullptr, "0123456789", 10);
-  handler->onFinish("t", "x", 0);
-  handler->onFinish("t", nullptr, 5);
-  EXPECT_EQ(host.Run("return take()"),
-            "{\"n\"=1, [1]=\"inited\"}, {\"n\"=2, [1]=\"progress\", [2]=\"50\"}, {\"n\"=2, [1]=\"progress\"}, "
-            "{\"n\"=3, [1]=\"finish\", [2]=\"\", [3]=\"0123456789\"}, {\"n\"=3, [1]=\"finish\", [2]=\"t\"}, "
-            "{\"n\"=3, [1]=\"finish\", [2]=\"t\"}");
-  EXPECT_EQ(lua_gettop(host.L), 0);
-  DeinitLuaVelora(host.L);
-  handler->onInited();
-  EXPECT_EQ(host.Run("return take()"), "{\"n\"=1, [1]=\"inited\"}");
 }
 
 TEST_F(Download, ErrorsOfTheFunctionsAreLogged) {

@@ -70,12 +70,17 @@ local function walk(longest, check)
   end
 end
 
+local wrappers = {}
+for _, functions in ipairs{velora, velora.download} do
+  for name, f in pairs(functions) do
+    if type(f) == "function" and not name:find("^[sg]etOn") and not name:find("Handler$") then wrappers[name] = f end
+  end
+end
+
 -- Calls visit(name, parameters, result) for each wrapper.
 local function forEachWrapper(visit)
   local unseen = {}
-  for name, f in pairs(velora) do
-    if type(f) == "function" and not name:find("^[sg]etOn") then unseen[name] = true end
-  end
+  for name in pairs(wrappers) do unseen[name] = true end
   for signature, names in pairs(signatures) do
     local parameters, result = signature:match("^(%a*)>?(%a?)$")
     for name in names:gmatch("%S+") do
@@ -97,7 +102,7 @@ local function checkArgumentsOf(name, parameters)
       if line then line[k] = shown[kind](v) end
     end
     if parameters == "c" and select("#", ...) > 1 and (...) ~= nil then accepted = false end
-    local got = table.pack(pcall(velora[name], ...))
+    local got = table.pack(pcall(wrappers[name], ...))
     -- What is refused raises nothing, but for lists, options and the command line.
     local a, b = ...
     local raises = not accepted and (parameters == "l" or parameters == "c" or
@@ -126,10 +131,10 @@ local good = {t = 1.5, i = 7, n = 1.5, b = true, l = {"a"}, s = {"a"}, o = "text
 local function checkResultsOf(name, parameters, result)
   local arguments = {}
   for kind in parameters:gmatch(".") do arguments[#arguments + 1] = good[kind] end
-  if result == "" then assert(select("#", velora[name](table.unpack(arguments))) == 0, name) end
+  if result == "" then assert(select("#", wrappers[name](table.unpack(arguments))) == 0, name) end
   for _, value in ipairs(answers[result] or {}) do
     answer(name, value)
-    local got = table.pack(velora[name](table.unpack(arguments)))
+    local got = table.pack(wrappers[name](table.unpack(arguments)))
     local count = result == "s" and not value and 0 or 1
     local expected = type(value) == "string" and value:match("^[^\0]*") or value
     assert(got.n == count and (count == 0 or got[1] == expected and math.type(got[1]) == math.type(expected)), name)

@@ -7,15 +7,16 @@ signatures = {
     zvQueryFriendList zvQueryAvailablesInvitees zvQueryMyAccount zvQueryFriendListInGame zvQueryInviterList
     zvIsDarenUpdated zvMoreGame zvDisplayAchievement zvOpenNearby zvGetUsePushNotification zvConnectToChannel
     zvDisConnectFromChannel zvShowConversation zvShowFAQs zvCCStartService zvCCStopService zvFlushCustomEvents
-    zvGetAnnouncementInfo zvCloseWebView zvCloseFlash zvOpenVespera zvSetFloatBtnVisible]],
+    zvGetAnnouncementInfo zvCloseWebView zvCloseFlash zvOpenVespera zvSetFloatBtnVisible
+    init disableDownloadFinish2]],
   [">b"] = "isInit hasLogin zvHasNotification zvHasChannelConnected isCCRecording isCCRecordMic",
   [">i"] = "getCCPerformance getCCWindowState",
   [">s"] = [[getChannel getAppChannel getPlatform getAuthTypeName getUdid getChannelByImsi getChannelByImsiEx
-    getCCTypeByImsi getLastShareMessage zvGetChannelID]],
+    getCCTypeByImsi getLastShareMessage zvGetChannelID query getDownloadSDKVersion getOrbitSessionId]],
   [">x"] = "getCmdLineParameter zvGetCheckedOrders",
   t = [[zvAntiAddiction zvExtendFunc zvvGenericFunctionCall zvCallbackSuccess zvCallbackFail zvJFLog
     zvRemoveCheckedOrders zvApplyFriend zvDisplayLeaderboard zvShowWeb zvOpenWebView zvCollectEvent
-    zvSendLocalNotification zvSetZone zvSetUserIdentifier zvScannerQRCode zvPushGameVoice]],
+    zvSendLocalNotification zvSetZone zvSetUserIdentifier zvScannerQRCode zvPushGameVoice extendFunc]],
   ["t>b"] = "isBinded zvHasPlatform hasFeature", ["t>i"] = "DRPF",
   ["t>s"] = "getUserInfo getSDKVersion getPropStr getFFChannelByPid",
   tt = "setUserInfo setPropStr zvUpdateApi zvInviteFriendList zvTrackCustomEvent",
