@@ -40,19 +40,6 @@ TEST_F(Events, SettersStoreFunctionsOnly) {
         << bad;
 }
 
-TEST_F(Events, APassDeliversInOrderAndOnce) {
-  host.Run(
-      "velora.setOnLoginDone(function(...) note('in', ...) end) "
-      "velora.setOnLogoutDone(function(...) note('out', ...) end)");
-  PostCode(15, 1);
-  PostCode(16, -2);
-  PostCode(15, 3);
-  EXPECT_EQ(host.Frame(), "");
-  EXPECT_EQ(host.Run("return take()"), "{[1]=\"in\", [2]=1}, {[1]=\"out\", [2]=-2}, {[1]=\"in\", [2]=3}");
-  EXPECT_EQ(host.Frame(), "");
-  EXPECT_EQ(host.Run("return take()"), "");
-}
-
 TEST_F(Events, ErrorsAreLoggedAndThePassGoesOn) {
   host.Run(
       "velora.setOnLoginDone(function(code) note(code) if code < 9 then error(errors[code], 0) end end) "
@@ -172,20 +159,6 @@ TEST_F(Events, EveryEventReachesItsCallbackWithItsArguments) {
     }
   }
   EXPECT_TRUE(offline::TakeLog().empty());
-}
-
-TEST_F(Events, AnObjectFromAnEventStaysUsable) {
-  auto event = std::make_shared<PadStateEvent>(10);
-  event->pad = offline::MakePad({{"keyCode", std::int64_t{96}},
-                                 {"eventTime", std::int64_t{1} << 40},
-                                 {"pressure", 0.25},
-                                 {"deviceId", std::int64_t{-3}}});
-  offline::Post(std::move(event));
-  host.Run("velora.setOnControllerStateEvent(function(pad) p = pad end)");
-  EXPECT_EQ(host.Frame(), "");
-  EXPECT_EQ(host.Run("collectgarbage() return p:get_keyCode(), p:get_eventTime(), p:get_pressure(), p:get_deviceId(), "
-                     "velora.PadEvent.get_x(p)"),
-            "96, 1099511627776, 0.25, -3, 0.0");
 }
 
 }  // namespace
