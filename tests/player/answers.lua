@@ -1,15 +1,18 @@
--- The effects of offline.answer on events and on getters of records, and the names that it accepts.
+-- The effects of offline.answer on events, on getters of records and on the state, and the names that it accepts.
 local function text(...)
   local parts = table.pack(...)
   for i = 1, parts.n do parts[i] = tostring(type(parts[i]) == "table" and parts[i][1] or parts[i]) end
   return table.concat(parts, ", ")
 end
 
+local function show(name)
+  return function(...) print("  " .. name .. "(" .. text(...) .. ")") end
+end
+
 for setter, set in pairs(velora) do
   local name = setter:match("^setOn(.+)")
-  if name and name ~= "LogoutDone" then set(function(...) print("  " .. name .. "(" .. text(...) .. ")") end) end
+  if name then set(show(name)) end
 end
-velora.setOnLogoutDone(function(...) print("LogoutDone(" .. text(...) .. ")") player.quit() end)
 
 -- A code keeps the script's string, a string keeps the code; false is a failure.
 for _, answer in ipairs{0, 10, "found", false} do
@@ -22,7 +25,6 @@ for _, answer in ipairs{0, 10, "found", false} do
 end
 
 velora.zvQueryFriendList() velora.zvQuerySkuDetails("inapp", {"lamp"})
-velora.zvLogout()
 
 -- A getter returns a number or a boolean in the field's type. Any other answer, or none, keeps the field's value.
 local order, account = velora.OrderInfo.new("gold.60"), velora.AccountInfo.new()
@@ -61,3 +63,39 @@ fails("OrderInfo.get_acid", 1)
 fails("get_aid", 1)
 fails("ProductInfo.get_productId", "text")
 fails("", nil)
+
+-- Failures, apart from those in the reference: the events that follow, and that the state has not changed.
+local lamp, share = velora.OrderInfo.new("lamp"), velora.ShareInfo.new()
+local rows = {
+  {"zvInit", false}, {"zvInit", velora.FINISH_INIT_NEED_UPDATE_PACKAGE}, {"zvLogin", false},
+  {"zvLogin", velora.LOGIN_DONE_NET_TIME_OUT}, {"zvSwitchAccount", false},
+  {"zvLogin", 0}, {"zvLogout", velora.LOGOUT_DONE_NOLOGIN}, {"zvGuestBind", false}, {"zvConsume", false, lamp},
+  {"zvCheckOrder", false, velora.OrderInfo.new("oil")},
+  {"zvCheckOrder", velora.ORDER_S_SDK_CHECK_CANCEL, velora.OrderInfo.new("oil")}, {"zvShare", false, share},
+  {"zvSetUsePushNotification", false, false}, {"zvSendLocalNotification", false, "text"},
+  {"zvConnectToChannel", velora.CONNECT_CANCELED}, {"zvShowCompactView", false, true},
+  {"zvShowCompactView", velora.PROTOCOL_FINISH_NOT_NEED_SHOW, true}, {"zvVerifyMobile", false, 5},
+  {"zvVerifyMobile", 3, 5},
+}
+
+velora.setOnOrderCheckDone(function()
+  velora.setOnOrderCheckDone(show("OrderCheckDone"))
+  velora.setOnExtendFuncCall(print) -- prints the command as a title for the following lines
+  for _, row in ipairs(rows) do
+    local name, answer = row[1], row[2]
+    velora.zvExtendFunc(name .. " " .. tostring(answer))
+    offline.answer(name, answer)
+    velora[name](table.unpack(row, 3))
+    offline.answer(name, nil)
+  end
+  velora.exitApp()
+end)
+velora.setOnExitApp(function()
+  print(velora.isInit(), velora.hasLogin(), velora.isBinded(""), velora.zvHasNotification(),
+    velora.zvHasChannelConnected(), velora.getLastShareMessage() == nil, #velora.zvGetCheckedOrders())
+  offline.answer("zvGetCheckedOrders", false)
+  print(velora.zvGetCheckedOrders())
+  velora.setOnPushGetUserPushFinished(function(enabled) print(enabled) player.quit() end)
+  velora.zvGetUsePushNotification()
+end)
+velora.zvCheckOrder(lamp) -- so that it can fail to be consumed
