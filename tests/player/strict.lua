@@ -1,6 +1,10 @@
 -- Played with --strict: only the reports in strict.err are printed.
 local v, order, share = velora, velora.OrderInfo.new("gold.60"), velora.ShareInfo.new()
 
+local function call(rows)
+  for _, row in ipairs(rows) do row[1](table.unpack(row, 2)) end
+end
+
 -- The format of arguments.
 v.zvUpdateRank("speed", {})
 v.setPropInt("a \"b\"\\\n\1 100% s", 5.0)
@@ -10,34 +14,28 @@ v.setPropInt(("ö"):rep(50), coroutine.create(print))
 -- Wrappers, callbacks, class functions, methods, downloads; also functions that never call the SDK.
 v.setOnLoginDone(nil)
 v:setOnLoginDone(print)
-for _, call in ipairs{
+call{
   { v.isBinded }, { v.hasFeature, {} }, { v.zvCheckOrder, "gold.60" }, { v.OrderInfo.hasProduct, {} },
   { v.SkuDetailsInfo.new, "id" }, { order.set_aid, "x" }, { order.set_arrPriceLocaleId, order, "x" },
   { v.OrderInfo.get_aid, share }, { v.OrderInfo.set_aid, nil, 5 }, { v.ProductInfo.get_productId, order },
   { v.ProductInfo.set_sdkPids, {}, {} }, { v.ShareInfo.get_textMsg }, { v.ShareInfo.set_toUserList, order, {} },
   { v.PadEvent.get_x, {} }, { v.ShareInfo.__tostring, order }, { v.download.extendFunc, {} },
   { v.download.setSyncDownloadHandler, "x" },
-} do
-  call[1](table.unpack(call, 2))
-end
+}
 local finalized = v.OrderInfo.new("gold.60")
 finalized:__gc()
 finalized:__gc()
 finalized:get_aid()
 
 -- Accepted calls that lose elements or values.
-v.zvDeleteInviters{ "anna", {}, 7, false }
-v.zvSendPushNotification("text", { print, "ben" })
-v.zvSendPushNotification({}, { print })
-share:set_toUserList{ "anna", share }
-order:set_count("three")
-order:set_count("3")
-order:set_count(3.5)
-order:set_productCurrentPrice("cheap")
-order:set_userData({})
-order:set_userData(5)
-order:set_qrCodeOrder("yes")
-v.AccountInfo.new():set_rankScore()
+call{
+  { v.zvDeleteInviters, { "anna", {}, 7, false } }, { v.zvSendPushNotification, "text", { print, "ben" } },
+  { v.zvSendPushNotification, {}, { print } }, { share.set_toUserList, share, { "anna", share } },
+  { order.set_count, order, "three" }, { order.set_count, order, "3" }, { order.set_count, order, 3.5 },
+  { order.set_productCurrentPrice, order, "cheap" }, { order.set_userData, order, {} },
+  { order.set_userData, order, 5 }, { order.set_qrCodeOrder, order, "yes" },
+  { v.AccountInfo.set_rankScore, v.AccountInfo.new() },
+}
 
 -- Names that do not exist.
 for _, name in ipairs{ "LOGIN_DONE_CANCELLED", "zvLogn", "zvlogin", "setOnLoginDnoe", "nothingLikeIt", 5 } do
@@ -55,16 +53,14 @@ v.zvCheckOrder(order)
 -- Accepted calls that return nil or nothing, and calls that raise an error.
 offline.answer("getChannel", false)
 local product = v.ProductInfo.new()
-for _, call in ipairs{
+call{
   { v.getChannel }, { v.getCmdLineParameter }, { v.zvGetCheckedOrders }, { v.OrderInfo.getProductList },
   { v.getOnLoginDone }, { v.download.getSyncDownloadHandler }, { v.download.setSyncDownloadHandler },
   { v.setOnFinishInit, print, 1 }, { v.getPropStr, "NAME", {} }, { v.setPropStr, "NAME", 5 }, { v.hasFeature, "x" },
   { v.OrderInfo.hasProduct, "gold.60" }, { order.set_arrPriceLocaleId, order, {} }, { order.get_aid, order },
   { share.get_textMsg, share }, { share.set_textMsg, share, { a = 1 } }, { share.get_shareData, share },
   { product.get_sdkPids, product }, { tostring, order }, { tostring, share }, { tostring, product }, { v.isInit },
-} do
-  call[1](table.unpack(call, 2))
-end
+}
 order:set_aid(nil)
 product:set_productId()
 local _, message = pcall(function() v.zvShowRewardView("x") end)
