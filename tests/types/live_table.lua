@@ -305,13 +305,12 @@ end
 local function compareAccessors(class, members)
   local self, new = object(class), newObject(class)
   for name, member in sortedPairs(members) do
-    if name:find("^set_") then
-      compareResults(class .. "." .. name, {}, try(self[name], { self, sample(member.params[2].type) }, 2))
-    end
-  end
-  for name, member in sortedPairs(members) do
     if name:find("^get_") then
-      local result = member.returns[1].type
+      local result, setter = member.returns[1].type, name:gsub("^get", "set")
+      if members[setter] then
+        local value = sample(members[setter].params[2].type)
+        compareResults(class .. "." .. setter, {}, try(self[setter], { self, value }, 2))
+      end
       compareResults(class .. "." .. name, { { type = result:gsub("%?$", "") } }, try(self[name], { self }, 1))
       pcall(offline.answer, class .. "." .. name, false)
       local value = new[name](new)
