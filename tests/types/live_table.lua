@@ -157,9 +157,7 @@ end
 local function newObject(class)
   local make = globals.velora.fields[class].fields.new
   if not make then return objects[class] end
-  local values = {}
-  for i, param in ipairs(make.params) do values[i] = sample(param.type) end
-  return velora[class].new(table.unpack(values))
+  return velora[class].new(payload(make.params))
 end
 
 local function object(class)
