@@ -57,12 +57,10 @@ local stop = os.clock() + 0.05
 while os.clock() < stop do end
 print("logged in", velora.hasLogin())
 
-local function fails(...) print(select(2, pcall(offline.answer, ...))) end
-fails("zvLogn", false)
-fails("OrderInfo.get_acid", 1)
-fails("get_aid", 1)
-fails("ProductInfo.get_productId", "text")
-fails("", nil)
+for _, row in ipairs{{"zvLogn", false}, {"OrderInfo.get_acid", 1}, {"get_aid", 1},
+    {"ProductInfo.get_productId", "text"}, {"", nil}} do
+  print(select(2, pcall(offline.answer, row[1], row[2])))
+end
 
 -- Failures, apart from those in the reference: the events that follow, and that the state has not changed.
 local lamp, share = velora.OrderInfo.new("lamp"), velora.ShareInfo.new()

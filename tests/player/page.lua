@@ -21,8 +21,7 @@ for snippet, rest in page:gmatch("\n```lua\n(.-\n)```\n()") do
   local file = assert(io.open(folder .. "/" .. name, "wb"))
   file:write(snippet)
   file:close()
-  local command = "cd '%s' && timeout 60 %s --strict --frames 600 %s 2>&1"
-  local output = io.popen(command:format(folder, player, name))
+  local output = io.popen(("cd '%s' && timeout 60 %s --strict --frames 600 %s 2>&1"):format(folder, player, name))
   local printed = output:read("a")
   local _, _, status = output:close()
   local reports = expected:find("[strict] ", 1, true) or expected:find("velora-play: error in ", 1, true)
