@@ -35,16 +35,11 @@ int Byte(lua_State* L) {
   return 1;
 }
 
-constexpr char kCall[] = "call", kListen[] = "listen";
+constexpr char kCall[] = "call", kListen[] = "listen", kCollect[] = "collectgarbage";
 template <const char* function>
 int Script(lua_State* L) {
   lua_getglobal(L, function);
   lua_call(L, 0, 0);
-  return 0;
-}
-
-int Collect(lua_State* L) {
-  lua_gc(L, LUA_GCCOLLECT, 0);
   return 0;
 }
 
@@ -99,7 +94,7 @@ constexpr void (*kInstructions[])(lua_State*, Program&) = {
     RunStep<Enter<UpdateLuaVelora>>, RunStep<Enter<DeinitLuaVelora>>, CallHandler, RunOutOfMemory, RestoreMemory,
     RunStep<Enter<InitLuaVelora>>, RunStep<Script<kCall>>, RunStep<Script<kCall>>, RunStep<Script<kCall>>,
     // Not while allocations fail: these use memory outside the module.
-    RunStep<Script<kListen>>, SetPause, RunStep<Collect>, PostEvent, PostEvent, PostEvent, PostEvent};
+    RunStep<Script<kListen>>, SetPause, RunStep<Script<kCollect>>, PostEvent, PostEvent, PostEvent, PostEvent};
 constexpr unsigned kFirstThatNeedsMemory = 9;
 
 void Require(bool condition, const char* what) {
@@ -128,7 +123,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       if (!program.failsAllocations || instruction < kFirstThatNeedsMemory) kInstructions[instruction](host.L, program);
     }
     tests::memory::Restore();
-    for (int i = 0; i < 3; ++i) RunStep<Collect>(host.L, program);  // runs the remaining finalizers, even if some raise
+    for (int i = 0; i < 3; ++i)
+      RunStep<Script<kCollect>>(host.L, program);  // runs the remaining finalizers, even if some raise
     Require(lua_gettop(host.L) == 0, "stack height");
     Require(host.Run("return type(velora.isInit())") == "\"boolean\"", "the state does not work any more");
   }
