@@ -1,7 +1,4 @@
 // The virtual tables that module and SDK share, called by raw slot index.
-#include <gtest/gtest.h>
-
-#include <map>
 #include <sstream>
 #include <stdexcept>
 
@@ -18,7 +15,6 @@
 namespace tests {
 namespace {
 
-namespace offline = tarn::velora::offline;
 using namespace tarn::velora;
 
 using Abi = VeloraTest;
@@ -44,15 +40,14 @@ std::string OperationAt(void* record, std::size_t slot) {
   return name;
 }
 
-// `operations` names those of slot 1 and on; GET, SET and TEXT tell what the names behind them are.
+// `operations` names those of slot 1 and on; the words get_, set_ and plain tell how the names behind them begin.
 void ExpectSlots(void* record, const std::string& className, const std::string& operations) {
-  const std::map<std::string, std::string> prefixes = {{"GET", "get_"}, {"SET", "set_"}, {"TEXT", ""}};
   std::istringstream words(operations);
   std::string prefix;
   std::size_t slot = 0;
   for (std::string word; words >> word;) {
-    if (const auto kind = prefixes.find(word); kind != prefixes.end())
-      prefix = kind->second;
+    if (word == "get_" || word == "set_" || word == "plain")
+      prefix = word == "plain" ? "" : word;
     else
       EXPECT_EQ(OperationAt(record, ++slot), className + '.' + prefix + word) << slot;
   }
@@ -60,35 +55,36 @@ void ExpectSlots(void* record, const std::string& className, const std::string& 
 
 TEST_F(Abi, RecordsHaveTheirOperationsInTheirSlots) {
   ExpectSlots(OrderInfo::New("").get(), "OrderInfo", R"(
-    GET aid count curOrderChannel externalChannelId ffChannel jfCode jfExtInfo extendJson jfAasFfCode jfAasFfRule
+    get_ aid count curOrderChannel externalChannelId ffChannel jfCode jfExtInfo extendJson jfAasFfCode jfAasFfRule
     jfMessage veloraJfExtCid jfGas3Url jfSubCode orderChannel orderCurrency orderDesc orderErrReason orderErrCode
     orderEtc orderId orderStatus productCurrentPrice productExchangeRatio productId productName productPrice
     qrCodeParams sdkOrderId sdkPids serverId signature uid userData userName arrPriceLocaleId receipt qrCodeOrder
     channelGoodsTypes jellRatios jellyExtra cpOrderId jfExtraJson timeStamp orderType
-    TEXT produceCartInfo
-    SET aid count externalChannelId qrCodeOrder jfCode jfExtInfo extendJson jfAasFfCode jfAasFfRule jfMessage
+    plain produceCartInfo
+    set_ aid count externalChannelId qrCodeOrder jfCode jfExtInfo extendJson jfAasFfCode jfAasFfRule jfMessage
     veloraJfExtCid jfGas3Url jfSubCode orderChannel orderCurrency orderDesc orderErrReason orderEtc orderId orderStatus
     productCurrentPrice productId qrCodeParams sdkOrderId serverId signature uid userData userName arrPriceLocaleId
     cpOrderId jfExtraJson orderType
-    TEXT toString)");
+    plain toString)");
   ExpectSlots(ShareInfo::New().get(), "ShareInfo", R"(
-    GET aLinkParams altTextMsg desc extJson failMsg iLinkParams image link linkParams linkTextMsg musicUrl objectValue
+    get_ aLinkParams altTextMsg desc extJson failMsg iLinkParams image link linkParams linkTextMsg musicUrl objectValue
     roomId roomToken scope shareChannel subTextMsg templateId text textMsg timelineType title toUser toUserList type
     u3dShareBitmap u3dshareThumb videoUrl showShareDialog
-    SET aLinkParams altTextMsg desc extJson failMsg iLinkParams image link linkParams linkTextMsg musicUrl objectValue
+    set_ aLinkParams altTextMsg desc extJson failMsg iLinkParams image link linkParams linkTextMsg musicUrl objectValue
     roomId roomToken scope shareChannel showShareDialog subTextMsg templateId text textMsg timelineType title toUser
     toUserList type u3dShareBitmap u3dshareThumb videoUrl
-    SET shareData GET shareData TEXT toString GET shareThumb shareBitmap SET shareBitmap shareThumb
-    GET userName SET userName GET miniProgramType SET miniProgramType GET path SET path GET tag SET tag)");
+    set_ shareData get_ shareData plain toString get_ shareThumb shareBitmap set_ shareBitmap shareThumb
+    get_ userName set_ userName get_ miniProgramType set_ miniProgramType get_ path set_ path get_ tag set_ tag)");
   ExpectSlots(SkuDetailsInfo::New("", "", "", "", "", "", "").get(), "SkuDetailsInfo", R"(
-    GET description price priceAmountMicros priceCurrencyCode productId title type
-    SET description price priceAmountMicros priceCurrencyCode productId title type TEXT toString)");
-  ExpectSlots(QueryRankInfo::New().get(), "QueryRankInfo", "GET type scope count SET type scope count TEXT toString");
+    get_ description price priceAmountMicros priceCurrencyCode productId title type
+    set_ description price priceAmountMicros priceCurrencyCode productId title type plain toString)");
+  ExpectSlots(QueryRankInfo::New().get(), "QueryRankInfo",
+              "get_ type scope count set_ type scope count plain toString");
   ExpectSlots(AccountInfo::New().get(), "AccountInfo", R"(
-    GET accountId icon idType nickname rank rankScore relationType remark statusMessage inGame
-    SET accountId icon idType inGame nickname rank rankScore relationType remark statusMessage TEXT toString)");
+    get_ accountId icon idType nickname rank rankScore relationType remark statusMessage inGame
+    set_ accountId icon idType inGame nickname rank rankScore relationType remark statusMessage plain toString)");
   ExpectSlots(offline::MakePad({}).get(), "PadRecord",
-              "GET action deviceId eventTime keyCode motionKeyCode pressure state stateAction x y");
+              "get_ action deviceId eventTime keyCode motionKeyCode pressure state stateAction x y");
 }
 
 // The service calls the handler through its three slots.

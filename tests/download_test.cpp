@@ -1,20 +1,12 @@
 // The table `velora.download` and the handler through which the SDK calls Lua.
-#include <gtest/gtest.h>
-
 #include "download/handler.h"
 #include "tests/harness.h"
 
 namespace tests {
 namespace {
 
-namespace offline = tarn::velora::offline;
-
-class Download : public HostTest {
- protected:
-  void SetUp() override {
-    VeloraTest::SetUp();
-    Prepare(host);
-  }
+struct Download : HostTest {
+  Download() { Prepare(host); }
 
   static void Prepare(Host& fresh) {
     fresh.Run(

@@ -1,6 +1,4 @@
 // Callback slots, the per-frame pass, and the arguments of each callback.
-#include <gtest/gtest.h>
-
 #include <map>
 
 #include "platform/binding_helpers.h"
@@ -12,13 +10,12 @@
 namespace tests {
 namespace {
 
-namespace offline = tarn::velora::offline;
 using namespace tarn::velora;
 
-class Events : public HostTest {
- protected:
-  void SetUp() override {
-    VeloraTest::SetUp();
+constexpr int kNoEventType = 1 << 20;
+
+struct Events : HostTest {
+  Events() {
     host.Run(
         "log = {} function note(...) log[#log + 1] = table.pack(...) end "
         "function take() local l = log log = {} for _, e in ipairs(l) do e.n = nil end return table.unpack(l) end");
@@ -118,12 +115,7 @@ TEST_F(Events, CallbacksSetInAPassServeTheNextEventOfItAndEventsQueuedWait) {
 }
 
 // What a layout's callback receives when nothing of the payload is set, and when everything is.
-struct Arguments {
-  const char* empty;
-  const char* full;
-};
-
-const std::map<std::string, Arguments> kLayouts = {
+const std::map<std::string, std::pair<const char*, const char*>> kLayouts = {
     {"PlainEvent", {"", ""}},
     {"CodeEvent", {"0", "-2147483648"}},
     {"CodeTextEvent", {"0, \"\"", "-2147483648, \"te\""}},
@@ -154,7 +146,7 @@ TEST_F(Events, EveryEventReachesItsCallbackWithItsArguments) {
       offline::Post(MakeEvent(row.type, filled));
       EXPECT_EQ(host.Frame(), "");
       EXPECT_EQ(host.Run("local g = got got = nil return table.unpack(g, 1, g.n)"),
-                filled ? layout->second.full : layout->second.empty)
+                filled ? layout->second.second : layout->second.first)
           << row.name;
     }
   }

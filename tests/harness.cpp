@@ -75,7 +75,8 @@ static void Free(void* block) {
 
 }  // namespace memory
 
-std::string Render(lua_State* L, int index) {
+// Renders the value at `index`, as Host::Run says.
+static std::string Render(lua_State* L, int index) {
   index = lua_absindex(L, index);
   switch (lua_type(L, index)) {
     case LUA_TSTRING: {
@@ -223,7 +224,7 @@ void Check(Host& host, const std::string& chunk, const std::string& results, con
   EXPECT_EQ(made, calls) << chunk;
 }
 
-void VeloraTest::SetUp() {
+VeloraTest::VeloraTest() {
   tarn::velora::offline::SetLogToStderr(false);
   tarn::velora::offline::Reset();
 }

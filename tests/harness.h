@@ -15,6 +15,8 @@
 
 namespace tests {
 
+namespace offline = tarn::velora::offline;
+
 // Memory that can be made to run out, for Lua's allocator and for operator new on the calling thread alike.
 namespace memory {
 
@@ -58,9 +60,6 @@ class Host {
   lua_State* L = nullptr;
 };
 
-// Renders the value at `index`, as Host::Run says.
-std::string Render(lua_State* L, int index);
-
 // The catalogue's events by their type numbers. `make` returns a new one with nothing of its payload set or all of it.
 struct EventRow {
   int type;
@@ -69,9 +68,6 @@ struct EventRow {
   std::shared_ptr<tarn::velora::Event> (*make)(int type, bool filled);
 };
 extern const EventRow kEventRows[luavelora::kEventTypes];
-
-// A type that no event will ever have.
-inline constexpr int kNoEventType = 1 << 20;
 
 inline std::shared_ptr<tarn::velora::Event> MakeEvent(int type, bool filled) {
   return kEventRows[type].make(type, filled);
@@ -83,7 +79,7 @@ void Check(Host& host, const std::string& chunk, const std::string& results, con
 // Starts each test from an empty offline runtime, and checks at its end that every record and block is gone.
 class VeloraTest : public testing::Test {
  protected:
-  void SetUp() override;
+  VeloraTest();
   void TearDown() override;
 };
 

@@ -1,7 +1,5 @@
 // Hostile scripts: finalizers and callbacks that raise errors or call back at the worst moment; and an SDK that throws
 // or calls scripts in the middle of a wrapper.
-#include <gtest/gtest.h>
-
 #include <set>
 #include <stdexcept>
 #include <utility>
@@ -13,7 +11,6 @@
 namespace tests {
 namespace {
 
-namespace offline = tarn::velora::offline;
 using namespace tarn::velora;
 
 // What each operation of the SDK does first, after some that do nothing. kCallScript happens once.
@@ -42,10 +39,8 @@ int InjectFault(lua_State* L) {
   return 1;
 }
 
-class Hostile : public HostTest {
- protected:
-  void SetUp() override {
-    VeloraTest::SetUp();
+struct Hostile : HostTest {
+  Hostile() {
     offline::SetCallHook(Hook);
     fault = Fault::kNothing;
     hooked.clear();

@@ -1,19 +1,13 @@
 // Every function that a script sees, called with every combination of arguments that matters: what is refused makes no
 // SDK call, what is accepted makes one, with the arguments as the SDK is to see them and its answer as the result, and
 // neither writes a log line.
-#include <gtest/gtest.h>
-
 #include "tests/harness.h"
 
 namespace tests {
 namespace {
 
-namespace offline = tarn::velora::offline;
-
-class Matrix : public HostTest {
- protected:
-  void SetUp() override {
-    VeloraTest::SetUp();
+struct Matrix : HostTest {
+  Matrix() {
     lua_pushlightuserdata(host.L, &host);
     lua_setglobal(host.L, "light");
     lua_register(host.L, "calls", [](lua_State* L) {

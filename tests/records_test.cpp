@@ -1,17 +1,11 @@
 // The record classes that scripts can make, walked field by field from the row files.
-#include <gtest/gtest.h>
-
 #include "tests/harness.h"
 
 namespace tests {
 namespace {
 
-namespace offline = tarn::velora::offline;
-
-class Records : public HostTest {
- protected:
-  void SetUp() override {
-    VeloraTest::SetUp();
+struct Records : HostTest {
+  Records() {
     for (const char* file : {"objects.lua", "records.lua"}) EXPECT_EQ(host.RunFile(file), "");
   }
 };
@@ -52,8 +46,7 @@ TEST_F(Records, ConstructorsAnswerAsTheirClassSays) {
   Check(host, "velora.ProductInfo.new({}, 1)", "");
   Check(host, "velora.OrderInfo.new(42)", "", R"(New("42"))");
   Check(host, R"(velora.OrderInfo.new('a\0b'))", "", R"(New("a"))");
-  Check(host, "velora.OrderInfo.new({})", kNoId);
-  Check(host, "velora.OrderInfo.new()", kNoId);
+  for (const char* bad : {"{}", ""}) Check(host, std::string("velora.OrderInfo.new(") + bad + ")", kNoId);
   for (const char* bad :
        {"1, 2, 3, 4, 5, 6", "1, 2, 3, 4, 5, 6, {}", "1, true, 3, 4, 5, 6, 7", "print, 2, 3, 4, 5, 6, 7"})
     Check(host, std::string("return velora.SkuDetailsInfo.new(") + bad + ")", "");

@@ -1,7 +1,5 @@
 // Threads post events while frames run. Each event must be delivered once and in its thread's order, and records must
 // live as long as their last owner. To be run with the thread sanitizer, as make test does.
-#include <gtest/gtest.h>
-
 #include <atomic>
 #include <thread>
 
@@ -11,7 +9,6 @@
 namespace tests {
 namespace {
 
-namespace offline = tarn::velora::offline;
 using namespace tarn::velora;
 
 using Threads = VeloraTest;
