@@ -2,6 +2,14 @@
 
 namespace luavelora {
 
+// Not in the header: inlined after every call of the SDK, it would slow those calls down.
+void Slab::Free(Owned& object) {
+  const unsigned slot = object.slot_;
+  adopted_ &= ~Bit(slot);
+  Destroy(object);
+  FreeSlot(slot);
+}
+
 void Slab::Close() {
   Unlink();
   --pool_->slabs;

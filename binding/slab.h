@@ -102,12 +102,7 @@ class Slab {
   }
 
   // Destroys an adopted object and frees its slot. May delete the slab.
-  void Free(Owned& object) {
-    const unsigned slot = object.slot_;
-    adopted_ &= ~Bit(slot);
-    Destroy(object);
-    FreeSlot(slot);
-  }
+  void Free(Owned& object);
 
   // Takes the slab out of its pool and releases its objects. Deletes the slab, or, if Pins or running constructors
   // still use slots, lets the last of these delete it.
