@@ -71,15 +71,9 @@ Object* ModuleState::Create(Arguments&&... arguments) {
     if (pool.slabs > kUnchargedSlabs) debt_ += SlabOf<Object>::kSlots * (sizeof(Object) + kRecordBytes);
   }
   auto* slab = static_cast<SlabOf<Object>*>(pool.open);
-  const unsigned slot = slab->TakeSlot();
-  Object* object;
-  try {
-    object = new (slab->Memory(slot)) Object(std::forward<Arguments>(arguments)...);
-  } catch (...) {
-    slab->FreeSlot(slot);
-    throw;
-  }
-  slab->Adopt(*object, slot);
+  ReservedSlot slot(*slab);
+  auto* object = new (slab->Memory(slot.number())) Object(std::forward<Arguments>(arguments)...);
+  slot.Adopt(*object);
   if (!closed) return object;
   object->Release();
   return nullptr;

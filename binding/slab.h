@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <new>
+#include <utility>
 
 namespace luavelora {
 
@@ -136,6 +137,24 @@ class Slab {
   std::uint64_t taken_ = absent_;
   std::uint64_t adopted_ = 0;  // those whose object Close releases
   bool isClosing_ = false;
+};
+
+// A slot that is freed again unless an object is adopted, so also if the object's constructor throws.
+class ReservedSlot {
+ public:
+  explicit ReservedSlot(Slab& slab) : slab_(&slab), number_(slab.TakeSlot()) {}
+  ReservedSlot(const ReservedSlot&) = delete;
+  ReservedSlot& operator=(const ReservedSlot&) = delete;
+  ~ReservedSlot() {
+    if (slab_ != nullptr) slab_->FreeSlot(number_);
+  }
+
+  unsigned number() const { return number_; }
+  void Adopt(Owned& object) { std::exchange(slab_, nullptr)->Adopt(object, number_); }
+
+ private:
+  Slab* slab_;
+  const unsigned number_;
 };
 
 template <class Object>

@@ -96,7 +96,7 @@ local function shop()
     show(item:get_productId(), item:get_title() .. ", " .. item:get_price() .. " " .. item:get_priceCurrencyCode())
   end
 
-  say("\nBuy a can of oil. The SDK checks the order; the game gives the player the oil and consumes the order.")
+  say("\nBuy a can of oil. The SDK checks the order; the player gets the oil and the game consumes the order.")
   local order = ask("OrderCheckDone", velora.zvCheckOrder, velora.OrderInfo.new("oil.60"))
   show("order", order:get_orderId() .. " for " .. order:get_productName())
   show("after the check", nameOf("ORDER_S_", order:get_orderStatus()))

@@ -26,8 +26,8 @@ void CallSlot(void* object, std::size_t slot, Arguments... arguments) {
   reinterpret_cast<void (*)(void*, Arguments...)>(table[slot])(object, arguments...);
 }
 
-// The operation that a slot of a record leads to: the runtime's call hook throws its name before an argument, of which
-// none is given, is looked at.
+// Returns the operation in a slot of a record. Calls it without arguments: the runtime's call hook throws its name
+// before it uses any.
 std::string OperationAt(void* record, std::size_t slot) {
   offline::SetCallHook([](const char* operation) { throw std::runtime_error(operation); });
   std::string name;
@@ -40,7 +40,7 @@ std::string OperationAt(void* record, std::size_t slot) {
   return name;
 }
 
-// `operations` names those of slot 1 and on; the words get_, set_ and plain tell how the names behind them begin.
+// `operations` are the names from slot 1 on; the words get_, set_ and plain set the prefix of the names that follow.
 void ExpectSlots(void* record, const std::string& className, const std::string& operations) {
   std::istringstream words(operations);
   std::string prefix;
@@ -111,7 +111,7 @@ TEST_F(Abi, TheSlotsOfTheDownloadHandlerReachItsFunctions) {
   EXPECT_EQ(lua_gettop(host.L), 0);
 }
 
-// A share hands the SDK a record that holds the caches, each in its own field, written in the order of the fields.
+// A share request passes the SDK a record with the caches, each in its own field, written in the order of the fields.
 TEST_F(Abi, SharingWritesTheCachesIntoTheRecord) {
   Host host;
   static std::string operations;

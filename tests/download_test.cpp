@@ -94,7 +94,7 @@ TEST_F(Download, TheLastStateThatRegistersWins) {
   EXPECT_EQ(luavelora::downloadHandler.state(), nullptr);
 }
 
-// What was made before the module's start is finalized after the state has been forgotten.
+// Objects created before InitLuaVelora are finalized after the module's state.
 TEST_F(Download, NothingRegistersWhileTheStateCloses) {
   Host late(false);
   late.Run(

@@ -55,7 +55,7 @@ TEST_F(EntryPoints, DeinitEmptiesTheSlotsAndNothingElse) {
   EXPECT_FALSE(memory::Restore());
   host.Run("for k, v in pairs(velora) do if k:find('^setOn') then v(print) end end order = velora.OrderInfo.new(1)");
   EXPECT_EQ(host.Run("return velora.getOnLoginDone() == print, velora.getOnDownloadFinish2() == print"), "true, true");
-  // Without any memory: an object cannot be made, and nothing else needs to be.
+  // Without memory only the creation of an object fails; nothing else allocates.
   offline::Post(MakeEvent(17, true));
   lua_pushcfunction(host.L, [](lua_State* L) { return (UpdateLuaVelora(L), 0); });
   memory::FailAfter(0);
@@ -75,7 +75,7 @@ TEST_F(EntryPoints, DeinitEmptiesTheSlotsAndNothingElse) {
   EXPECT_TRUE(offline::TakeLog().empty());
 }
 
-// Nothing is made after Init, so no finalizer runs.
+// Deinit allocates nothing after Init, so no finalizer runs.
 TEST_F(EntryPoints, DeinitRaisesNoErrorOfAFinalizer) {
   for (const bool initialise : {true, false}) {
     host.Open(initialise);
@@ -93,7 +93,7 @@ TEST_F(EntryPoints, DeinitRaisesNoErrorOfAFinalizer) {
   }
 }
 
-// enter(entry, full, hooked) calls the entry point, with a full Lua stack or under a hook that raises, if asked to.
+// enter(entry, full, hooked) calls the entry point, with a full Lua stack if `full` and a hook that raises if `hooked`.
 int CallEntryPoint(lua_State* L) {
   const auto raise = [](lua_State* state, lua_Debug*) {
     lua_sethook(state, nullptr, 0, 0);
@@ -115,7 +115,7 @@ TEST_F(EntryPoints, WhatLeavesThem) {
   };
   for (const auto& [run, init, update, deinit] : {
            Case{"enter(entry, true)", "test:1: stack overflow", "test:1: stack overflow", "test:1: stack overflow"},
-           // At the deepest level the protected call fails, and the entry point is called in its place.
+           // At the deepest level pcall fails, and the entry point is called instead.
            {"local entered local function deep() local ok, e = pcall(deep) if entered then error(e or '', 0) end "
             "entered = true enter(entry) end deep()",
             "C stack overflow", "C stack overflow", ""},
@@ -137,7 +137,7 @@ TEST_F(EntryPoints, WhatLeavesThem) {
   }
 }
 
-// A state whose record is not in the registry.
+// The ModuleState is not in the registry.
 TEST_F(EntryPoints, FunctionsWithoutTheModulesStateReturnNothing) {
   offline::SetProduct({});
   offline::SetCheckedOrders({offline::MakeOrder({})});
@@ -162,7 +162,7 @@ TEST_F(EntryPoints, ASecondInitKeepsOlderObjectsAndCallbacks) {
   EXPECT_EQ(offline::LiveRecords(), 0u);
 }
 
-// What the registry keeps is named by text, so that other carriers of the helpers see the same.
+// The registry keys are strings, so that other libraries with these helpers find the same tables.
 TEST_F(EntryPoints, HelpersKeepTheirContract) {
   host.Open(false);
   lua_State* L = host.L;
@@ -205,8 +205,8 @@ TEST_F(EntryPoints, HelpersKeepTheirContract) {
   EXPECT_EQ(GetLuaTableLen(L), 3);
 }
 
-// A userdata of somebody else's class under one of the module's names must not be read as an object, and scripts cannot
-// reach a metatable. A frame before the start drops the events.
+// A userdata of another library's class with one of the module's names must not be read as an object, and scripts
+// cannot reach a metatable. A frame before InitLuaVelora drops the events.
 TEST_F(EntryPoints, WhatWasThereBeforeTheStartIsNotAdopted) {
   host.Open(false);
   offline::Post(MakeEvent(4, false));

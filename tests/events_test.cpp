@@ -58,7 +58,7 @@ TEST_F(Events, ErrorsAreLoggedAndThePassGoesOn) {
     EXPECT_EQ(lines[i], std::string("[VELORA] 0 [Velora callback err] ") + expected[i]);
 }
 
-// Lines go to the channel that the SDK's global holds at the time of the call.
+// Lines are logged on the channel in the SDK's global at the time of the call.
 TEST_F(Events, UnknownTypesAreLoggedOnlyWhereTheTableHoldsAValue) {
   for (int type : {kNoEventType, -1, kNoEventType + 1}) offline::Post(std::make_shared<Event>(type));
   EXPECT_EQ(host.Frame(), "");

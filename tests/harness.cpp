@@ -117,7 +117,7 @@ void Host::Open(bool initialise) {
   Close();
   L = lua_newstate(memory::LuaAllocator, nullptr);
   luaL_openlibs(L);
-  // With VELORA_AGGRESSIVE_GC set, a full cycle at every chance finds what is not anchored.
+  // If VELORA_AGGRESSIVE_GC is set, a full cycle runs at every allocation, which finds values that are not anchored.
   if (std::getenv("VELORA_AGGRESSIVE_GC") != nullptr) {
     lua_gc(L, LUA_GCSETPAUSE, 0);
     lua_gc(L, LUA_GCSETSTEPMUL, 1000000);
@@ -134,7 +134,7 @@ void Host::Close() {
   L = nullptr;
 }
 
-// Calls the chunk on top of the stack, if `status` tells that it was loaded.
+// Calls the chunk on top of the stack if `status` is LUA_OK.
 static std::string Call(lua_State* L, int status) {
   const int top = lua_gettop(L) - 1;
   std::string text;
@@ -175,7 +175,7 @@ std::string Host::Frame() {
 
 namespace {
 
-// The same values wherever a layout has a member of that name.
+// Members of the same name have the same value in every layout.
 template <class Layout>
 void Fill(Layout& event) {
   using namespace tarn::velora;

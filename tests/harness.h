@@ -17,20 +17,20 @@ namespace tests {
 
 namespace offline = tarn::velora::offline;
 
-// Memory that can be made to run out, for Lua's allocator and for operator new on the calling thread alike.
+// Lets memory run out, for Lua's allocator and for operator new on the calling thread.
 namespace memory {
 
 // Lets every allocation after the next `allowed` ones fail, until Restore. Shrinking and freeing always succeed.
 void FailAfter(long allowed);
 
-// Ends the shortage and returns whether an allocation failed.
+// Lets allocations succeed again and returns whether one failed.
 bool Restore();
 
 // The allocator of the test states; blocks in use are counted.
 void* LuaAllocator(void*, void* block, std::size_t oldSize, std::size_t newSize);
 long LuaBlocksInUse();
 
-// The bytes that Lua's allocator and operator new have given and not got back, on all threads.
+// Returns the bytes allocated by Lua's allocator and operator new and not freed, on all threads.
 long BytesInUse();
 
 }  // namespace memory
@@ -50,7 +50,8 @@ class Host {
   // The same for a file of tests/lua.
   std::string RunFile(const std::string& name);
 
-  // Runs one frame and checks that the stack height is unchanged. "" or the text of a Lua error that left it.
+  // Runs one frame and checks that the stack height is unchanged. Returns "" or the message of a Lua error that left
+  // it.
   std::string Frame();
 
   // Closes the state before the host goes, and opens another.

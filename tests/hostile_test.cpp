@@ -104,8 +104,8 @@ TEST_F(Hostile, TablesThatChangeWhileTheyAreRead) {
   ExpectSound();
 }
 
-// Each event layout, while every allocation may run a finalizer that raises: each event reaches its callback once, and
-// is held up once at most.
+// For each event layout, while every allocation may run a finalizer that raises: each event is delivered once, and at
+// most one error of a finalizer is logged for it.
 TEST_F(Hostile, FinalizersThatRaiseWhileThePumpBuildsArguments) {
   host.Run(
       "seen = 0 for name, f in pairs(velora) do if name:find('^setOn') then f(function() seen = seen + "
@@ -127,7 +127,7 @@ TEST_F(Hostile, FinalizersThatRaiseWhileThePumpBuildsArguments) {
   ExpectSound();
 }
 
-// No C++ exception of the SDK reaches Lua as one: each becomes an error of the script, and whatever was begun is
+// No C++ exception of the SDK reaches Lua as one: each becomes a Lua error, and what the call had begun is
 // undone.
 TEST_F(Hostile, AnSdkThatThrows) {
   for (const auto& [what, text] :
@@ -141,7 +141,7 @@ TEST_F(Hostile, AnSdkThatThrows) {
   fault = Fault::kNothing;
 }
 
-// What a broken SDK hands over, and a log library that throws in place of taking a line.
+// An SDK that returns empty references, and a log library that throws.
 struct Broken : offline::Observer {
   Broken() { offline::SetObserver(this); }
   ~Broken() override { offline::SetObserver(nullptr); }
@@ -168,15 +168,15 @@ TEST_F(Hostile, EmptyReferencesAndALogThatThrows) {
   EXPECT_EQ(broken.lines, 4);
 }
 
-// The script's handler runs in the middle of a call and finishes the very objects in hand.
+// The script's download handler runs during a call and finalizes the objects that the call uses.
 TEST_F(Hostile, AnSdkThatCallsScriptsInTheMiddleOfACall) {
   EXPECT_EQ(host.Run("return callWhatCallsBack(3)"), "\"inner\", true, true, \"inner\"");
   ExpectSound();
   EXPECT_GT(hooked.size(), 250u);
 }
 
-// With no memory for the call of a finalizer, Lua drops it; the record goes when the state closes. Afterwards no object
-// of any class is valid, though its own finalizer never ran, and none can be created.
+// If there is no memory for the call of a finalizer, Lua drops it; the record is freed when the state closes.
+// Afterwards no object of any class is valid, though its own finalizer never ran, and none can be created.
 TEST_F(Hostile, FinalizersThatFindNoMemory) {
   host.Open(false);
   static int used;
@@ -217,8 +217,8 @@ TEST_F(Hostile, FinalizersThatFindNoMemory) {
   EXPECT_EQ(offline::LiveRecords(), 0u);
 }
 
-// Finalizers that collect while the state closes run the module's own closing in the middle of what they do. No cycle
-// may be under way then: Lua 5.3 itself loops forever if lua_close interrupts a sweep and a finalizer collects.
+// Finalizers that collect while the state closes run the module's own closing in the middle of their work. No cycle may
+// be running then: Lua 5.3 itself loops forever if lua_close interrupts a sweep and a finalizer collects.
 TEST_F(Hostile, FinalizersThatCollectWhileTheStateCloses) {
   for (const char* action : {
            "local s = velora.ShareInfo.new('late') s:set_toUserList(setmetatable({'a'}, {__len = function() "
@@ -246,7 +246,7 @@ TEST_F(Hostile, FinalizersThatCollectWhileTheStateCloses) {
   }
 }
 
-// An object that a finalizer creates while the state closes, and that is collected when its holder is gone.
+// A finalizer creates an object while the state closes; it is collected after its holder was freed.
 TEST_F(Hostile, AnObjectThatOutlivesTheClosing) {
   host.Open(false);
   host.Run("last = setmetatable({}, {__gc = function() collectgarbage() end})");
@@ -258,7 +258,7 @@ TEST_F(Hostile, AnObjectThatOutlivesTheClosing) {
   EXPECT_EQ(offline::LiveRecords(), 0u);
 }
 
-// A finalizer that sets a handler of its own in the middle of setting one: whoever comes last wins, nothing is mixed.
+// A finalizer that sets a handler of its own while one is being set: the last one is used, with all its functions.
 TEST_F(Hostile, HandlersSetWhileAHandlerIsSet) {
   host.Run(
       "good = {onInited = noop, onProgress = noop, onFinish = noop} "

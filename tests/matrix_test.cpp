@@ -1,6 +1,5 @@
-// Every function that a script sees, called with every combination of arguments that matters: what is refused makes no
-// SDK call, what is accepted makes one, with the arguments as the SDK is to see them and its answer as the result, and
-// neither writes a log line.
+// Every function that a script sees, called with every combination of arguments that matters. A refused call makes no
+// SDK call. An accepted call makes one, with the converted arguments, and returns its result. Neither logs a line.
 #include "tests/harness.h"
 
 namespace tests {

@@ -133,7 +133,7 @@ TEST_F(Records, TheProductRegistryIsReachedThroughTheOrderClass) {
         R"({"p"="1"}, {"g"=2}, {"r"=3})", "getProductList()");
 }
 
-// Nothing is made in Lua here: only what the setters tell the collector makes it work, unless it is stopped.
+// Nothing is allocated in Lua here: the collector runs only because of what the setters charge, unless it is stopped.
 TEST_F(Records, LongContentDrivesTheCollector) {
   EXPECT_EQ(host.Run("local order, share, text = objects.OrderInfo, objects.ShareInfo, ('x'):rep(1 << 20) "
                      "local list, map = {text}, {k = text} "

@@ -62,7 +62,7 @@ TEST_F(Soak, AnHourOfGameDoesNotGrow) {
   EXPECT_LE(late, early + early / 200) << "after the first tenth " << early << " bytes, at the end " << late;
 }
 
-// Memory of which Lua knows little: nobody keeps the objects that a script makes in a loop.
+// A script creates objects in a loop and drops them; Lua sees little of their memory.
 TEST_F(Soak, GarbageThatOwnsMuchIsCollectedInTime) {
   static long peak;
   for (const auto& [script, megabytes] : {

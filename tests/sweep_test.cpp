@@ -1,4 +1,4 @@
-// Lets memory run out at every single allocation, Lua's and C++'s alike, and looks for what is lost or broken.
+// Lets memory run out at every single allocation of Lua and of C++, and checks that nothing leaks or breaks.
 #include <gtest/gtest.h>
 
 #include <set>
@@ -13,7 +13,7 @@ namespace offline = tarn::velora::offline;
 
 using Sweep = VeloraTest;
 
-// What is prepared with memory, and the function of sweep.lua that runs while it runs out.
+// A chunk that runs with enough memory, and the function of sweep.lua that runs out of it.
 struct Scenario {
   const char* prepare;
   const char* run;
@@ -51,7 +51,7 @@ int Post(lua_State*) {
   return 0;
 }
 
-// One run with `allowed` allocations; true when they were enough.
+// Runs a scenario with `allowed` allocations and returns whether they were enough.
 bool RunOnce(const Scenario& scenario, long allowed) {
   Host host;
   lua_State* L = host.L;

@@ -1,4 +1,4 @@
-// What no table of argument kinds can tell of the wrappers: options, lists, records, optional arguments.
+// What the table of argument kinds does not cover: options, lists, records, optional arguments.
 #include "tests/harness.h"
 
 namespace tests {

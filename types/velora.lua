@@ -298,7 +298,7 @@ function velora.zvShowCompactView(shown) end
 
 ---@alias velora.OnProtocolFinish fun(code: integer)
 
----Sets the callback of ProtocolFinish, which occurs when the user agreement has been answered. It receives `code`, one
+---Sets the callback of ProtocolFinish, which occurs when the player has accepted or refused the user agreement. It receives `code`, one
 ---of `PROTOCOL_FINISH_*`.
 ---@param callback velora.OnProtocolFinish
 function velora.setOnProtocolFinish(callback) end

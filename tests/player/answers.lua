@@ -26,7 +26,7 @@ end
 
 velora.zvQueryFriendList() velora.zvQuerySkuDetails("inapp", {"lamp"})
 
--- A getter returns a number or a boolean in the field's type. Any other answer, or none, keeps the field's value.
+-- A getter returns a number or a boolean in the field's type. Any other value, or nil, keeps the field's value.
 local order, account = velora.OrderInfo.new("gold.60"), velora.AccountInfo.new()
 order:set_count(3)
 for _, row in ipairs{{"OrderInfo", order, "count"}, {"OrderInfo", order, "qrCodeOrder"},
